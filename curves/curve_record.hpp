@@ -1,0 +1,102 @@
+// What all curves share: the type codes by dimension, the five lists, control points and samples.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "kxgeom/list.h"
+#include "kxgeom/types.h"
+#include "list/items.hpp"
+#include "list/point_kind.hpp"
+#include "records/dimension.hpp"
+#include "runtime/memory.hpp"
+
+namespace kx {
+
+template <class D>
+struct curve_codes;
+
+template <>
+struct curve_codes<plane> {
+  static constexpr std::int32_t bspline = 83, bezier = 85, catrom = 87, nonuniform_bspline = 93, nurbs = 94;
+};
+
+// The space B-spline is 98 and not 94: hosts tell it so from the plane NURBS.
+template <>
+struct curve_codes<space> {
+  static constexpr std::int32_t bspline = 84, bezier = 86, catrom = 88, nonuniform_bspline = 98, nurbs = 95;
+};
+
+inline constexpr std::int32_t max_degree = 15;
+
+inline constexpr double identity_basis[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+
+// The five lists in the order of the record.
+inline constexpr list_hdr *curve::*curve_lists[] = {&curve::weights, &curve::knots, &curve::ctrl_pnts,
+                                                    &curve::curve_pnts, &curve::curve_stats};
+
+inline bool create_if_missing(list_hdr *&list) { return list != nullptr || (list = ll_create_list()) != nullptr; }
+
+// Frees a list, its items and their data, whatever they are.
+inline void dispose(list_hdr *&list) {
+  if (list == nullptr) return;
+  release_items(*list);
+  release(list);
+  list = nullptr;
+}
+
+// Frees a curve whatever it holds, where kx_purge_curve would ask for the control points' kind.
+inline void dispose(curve *c) {
+  if (c == nullptr) return;
+  for (auto list : curve_lists) dispose(c->*list);
+  release(c);
+}
+
+// Number of items; 0 for a detached header, whose count is no longer true.
+inline std::int32_t item_count(const list_hdr *list) { return empty(list) ? 0 : list->count; }
+
+// How a definer leaves the caller's header: with the count it had, or all 0. Hosts of either half know it so.
+enum class detached { keeps_count, is_zero };
+
+// Takes all items out of a caller's list.
+inline list_hdr take_items(list_hdr *given, detached how) {
+  if (empty(given)) return {};
+  const list_hdr taken = *given;
+  *given = {nullptr, nullptr, nullptr, how == detached::keeps_count ? taken.count : 0};
+  return taken;
+}
+
+// Gives a list of the curve other items; those it had are freed.
+inline void replace_items(list_hdr &list, const list_hdr &taken) {
+  if (!empty(&list)) release_items(list);
+  list = taken;
+}
+
+// A sample of a curve: the point and its statistics.
+template <class D>
+struct sample {
+  typename D::vertex *point;
+  typename D::stats *stats;
+};
+
+// Appends a zeroed sample to both lists and hands it out to be filled, in place and without a copy; both null, nothing
+// appended, after the memory message.
+template <class D>
+inline sample<D> append_sample(curve &c) {
+  auto *point = D::create_vertex();
+  auto *stats = point ? create<typename D::stats>(D::stats_location) : nullptr;
+  list_item *point_item = stats ? create_item(point, D::vertex_tag) : nullptr;
+  list_item *stats_item = point_item ? create_item(stats, D::stats_tag) : nullptr;
+  if (stats_item == nullptr) [[unlikely]] {
+    release(point);
+    release(stats);
+    release(point_item);
+    return {nullptr, nullptr};
+  }
+  link_last(*c.curve_pnts, point_item);
+  link_last(*c.curve_stats, stats_item);
+  return {point, stats};
+}
+
+}  // namespace kx

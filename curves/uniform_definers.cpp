@@ -1,0 +1,101 @@
+// Defining the uniform cubic curves: type, basis matrix and control points.
+#include <initializer_list>
+
+#include "curve_record.hpp"
+#include "kxgeom/curves.h"
+
+namespace {
+
+using kx::curve_codes;
+using kx::plane;
+using kx::space;
+
+// One uniform kind: its code in each dimension, its basis as rows and a factor, and how it leaves the caller's header.
+struct uniform_kind {
+  std::int32_t plane_code, space_code;
+  double rows[16];
+  double factor;
+  kx::detached header;
+};
+
+constexpr uniform_kind bspline = {curve_codes<plane>::bspline,
+                                  curve_codes<space>::bspline,
+                                  {-1, 3, -3, 1, 3, -6, 3, 0, -3, 0, 3, 0, 1, 4, 1, 0},
+                                  0.16666666666666666,
+                                  kx::detached::is_zero};
+constexpr uniform_kind bezier = {curve_codes<plane>::bezier,
+                                 curve_codes<space>::bezier,
+                                 {-1, 3, -3, 1, 3, -6, 3, 0, -3, 3, 0, 0, 1, 0, 0, 0},
+                                 1.0,
+                                 kx::detached::keeps_count};
+constexpr uniform_kind catrom = {curve_codes<plane>::catrom,
+                                 curve_codes<space>::catrom,
+                                 {-1, 3, -3, 1, 2, -5, 4, -1, -1, 0, 1, 0, 0, 2, 0, 0},
+                                 0.5,
+                                 kx::detached::keeps_count};
+
+std::int32_t bezier_degree(std::int32_t points) { return points < 1 ? 0 : points > 31 ? 30 : points - 1; }
+
+// Fills a curve that has a control list.
+void define(const uniform_kind &kind, std::int32_t code, list_hdr &ctrl, curve &c) {
+  c.curve_type = code;
+  for (int i = 0; i < 16; ++i) c.basis[i] = kind.rows[i] * kind.factor;
+  if (&kind == &bezier) c.degree = bezier_degree(kx::item_count(&ctrl));
+  kx::replace_items(*c.ctrl_pnts, kx::take_items(&ctrl, kind.header));
+}
+
+std::int32_t define_plane(const uniform_kind &kind, list_hdr *ctrl, curve *c) {
+  if (ctrl == nullptr || c == nullptr) return 40;
+  if (!kx::create_if_missing(c->ctrl_pnts)) return 80;
+  define(kind, kind.plane_code, *ctrl, *c);
+  return 0;
+}
+
+curve *define_space(const uniform_kind &kind, list_hdr *ctrl) {
+  curve *c = ctrl ? kx_create_curve() : nullptr;
+  if (c) define(kind, kind.space_code, *ctrl, *c);
+  return c;
+}
+
+curve *dispatch(const uniform_kind &kind, list_hdr *ctrl) {
+  const std::int32_t tag = kx::datatype(ctrl);
+  if (kx::is_plane_point(tag)) {
+    curve *c = kx_create_curve();
+    if (c == nullptr || define_plane(kind, ctrl, c) == 0) return c;
+    kx::dispose(c);
+  } else if (kx::is_space_point(tag)) {
+    // Space curves come from the space definers alone: here the points are taken over and freed, on purpose, as hosts
+    // that still call this count on getting none back.
+    kx::dispose(define_space(kind, ctrl));
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+/* ---- uniform definers ---- */
+
+curve *KX_CALL kx_def_ucurve(list_hdr *ctrl, std::int32_t curve_type) {
+  for (const uniform_kind *kind : {&bspline, &bezier, &catrom}) {
+    if (curve_type == kind->plane_code || curve_type == kind->space_code) return dispatch(*kind, ctrl);
+  }
+  return nullptr;
+}
+
+curve *KX_CALL kx_def_ubspl_curve(list_hdr *ctrl) { return dispatch(bspline, ctrl); }
+
+curve *KX_CALL kx_def_ubezier_curve(list_hdr *ctrl) { return dispatch(bezier, ctrl); }
+
+curve *KX_CALL kx_def_ucatrom_curve(list_hdr *ctrl) { return dispatch(catrom, ctrl); }
+
+std::int32_t KX_CALL kx_def_ubspl_curve2d(list_hdr *ctrl, curve *c) { return define_plane(bspline, ctrl, c); }
+
+std::int32_t KX_CALL kx_def_ubezier_curve2d(list_hdr *ctrl, curve *c) { return define_plane(bezier, ctrl, c); }
+
+std::int32_t KX_CALL kx_def_ucatrom_curve2d(list_hdr *ctrl, curve *c) { return define_plane(catrom, ctrl, c); }
+
+curve *KX_CALL kx_def_ubspl_curve3d(list_hdr *ctrl) { return define_space(bspline, ctrl); }
+
+curve *KX_CALL kx_def_ubezier_curve3d(list_hdr *ctrl) { return define_space(bezier, ctrl); }
+
+curve *KX_CALL kx_def_ucatrom_curve3d(list_hdr *ctrl) { return define_space(catrom, ctrl); }

@@ -1,0 +1,175 @@
+/* Transformations: plane and space matrices, point transforms, viewing.
+ *
+ * A plane matrix is 9 doubles, a space matrix 16, row-major, in storage of the caller. Points are row vectors on the
+ * left: x' = m00*x + m10*y + m20, y' = m01*x + m11*y + m21; the translation sits in the last row and the last column is
+ * not used. Builders multiply onto the right of what is there, so a sequence of calls acts in call order; start with
+ * kx_getidmatrix2d or kx_getidmatrix3d. Angles are in degrees, counter-clockwise, with 0.01745329252 radians to the
+ * degree.
+ */
+#ifndef KXGEOM_TRANSFORM_H
+#define KXGEOM_TRANSFORM_H
+
+#include "kxgeom/export.h"
+#include "kxgeom/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- matrix builders ---- */
+
+/**
+ * Sets a plane matrix to the identity; a null matrix is left alone.
+ * @param[out] matrix  9 doubles
+ */
+KX_API void KX_CALL kx_getidmatrix2d(double *matrix);
+
+/**
+ * Sets a space matrix to the identity; a null matrix is left alone.
+ * @param[out] matrix  16 doubles
+ */
+KX_API void KX_CALL kx_getidmatrix3d(double *matrix);
+
+/**
+ * Adds a move by (dx, dy) after what the matrix does already.
+ * @param[in] dx,dy  the move
+ * @param[in,out] matrix  9 doubles; null does nothing
+ */
+KX_API void KX_CALL kx_translatematrix2d(double dx, double dy, double *matrix);
+
+/**
+ * Adds a rotation about a centre, counter-clockwise, after what the matrix does already.
+ * @param[in] angle_deg  the angle in degrees; every value counts, however small
+ * @param[in] center  the point that stays
+ * @param[in,out] matrix  9 doubles; does nothing when this or center is null
+ */
+KX_API void KX_CALL kx_rotationmatrix2d(double angle_deg, const pnt_2d *center, double *matrix);
+
+/**
+ * Adds a scaling about a fixed point after what the matrix does already.
+ * Only when both factors are 1e-7 or less, negative ones included, are both taken as 1; one such factor alone is used
+ * as given: 0 collapses its axis, a negative one mirrors.
+ * @param[in] sx,sy  the factors along x and y
+ * @param[in] fixed  the point that stays
+ * @param[in,out] matrix  9 doubles; does nothing when this or fixed is null
+ */
+KX_API void KX_CALL kx_scalematrix2d(double sx, double sy, const pnt_2d *fixed, double *matrix);
+
+/**
+ * Adds a shear after what the matrix does already.
+ * @param[in] mode  1: y' = y + factor*x; any other: x' = x + factor*y
+ * @param[in] factor  how much
+ * @param[in,out] matrix  9 doubles; null does nothing
+ */
+KX_API void KX_CALL kx_shearmatrix2d(int32_t mode, double factor, double *matrix);
+
+/**
+ * Adds a reflection after what the matrix does already.
+ * @param[in] mode  1: x' = -x; 2: through the origin; 3: about the line y = x; 4: about the line y = -x; 0 and any
+ *   other: y' = -y
+ * @param[in,out] matrix  9 doubles; null does nothing
+ */
+KX_API void KX_CALL kx_reflectmatrix2d(int32_t mode, double *matrix);
+
+/* ---- matrices ---- */
+
+/**
+ * Multiplies two plane matrices: b becomes b*a, which does what b did and then what a does.
+ * @param[in] a  9 doubles; may be b
+ * @param[in,out] b  9 doubles; does nothing when either is null
+ */
+KX_API void KX_CALL kx_mat33mult(const double *a, double *b);
+
+/**
+ * Copies a plane matrix.
+ * @param[in] from  9 doubles; may overlap to
+ * @param[out] to  9 doubles; does nothing when either is null
+ */
+KX_API void KX_CALL kx_movematrix2d(const double *from, double *to);
+
+/**
+ * Copies a space matrix.
+ * @param[in] from  16 doubles; may overlap to
+ * @param[out] to  16 doubles; does nothing when either is null
+ */
+KX_API void KX_CALL kx_movematrix3d(const double *from, double *to);
+
+/**
+ * The determinant of the matrix with the rows (a, b) and (c, d).
+ * @param[in] a,b,c,d  the four elements, row by row
+ * @return a*d - b*c
+ */
+KX_API double KX_CALL kx_get_det22(double a, double b, double c, double d);
+
+/**
+ * Inverts a plane matrix.
+ * @param[in] m  9 doubles; may be out
+ * @param[out] out  9 doubles: the inverse; on 1 the adjugate of m, not divided by the determinant
+ * @return 0; 1 when the determinant is within 1e-7 of zero, or an argument is null (out untouched)
+ */
+KX_API int32_t KX_CALL kx_getinversematrix2d(const double *m, double *out);
+
+/* ---- point transforms ---- */
+
+/**
+ * Applies a plane matrix to a point.
+ * @param[in] m  9 doubles
+ * @param[in] in  the point
+ * @param[out] out  its image; may be in; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_transformpnt2d(const double *m, const pnt_2d *in, pnt_2d *out);
+
+/**
+ * Moves a point by (dx, dy).
+ * @param[in] in  the point
+ * @param[in] dx,dy  the move
+ * @param[out] out  the moved point; may be in; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_translatepnt2d(const pnt_2d *in, double dx, double dy, pnt_2d *out);
+
+/**
+ * Turns a point counter-clockwise about a centre.
+ * @param[in] angle_deg  the angle in degrees; one within 1e-7 of zero gives an exact copy
+ * @param[in] center  the point that stays
+ * @param[in] in  the point
+ * @param[out] out  the turned point; may be in or center; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_rotatepnt2d(double angle_deg, const pnt_2d *center, const pnt_2d *in, pnt_2d *out);
+
+/**
+ * Scales a point about a fixed point, with the factor rule of kx_scalematrix2d.
+ * @param[in] sx,sy  the factors along x and y
+ * @param[in] fixed  the point that stays
+ * @param[in] in  the point
+ * @param[out] out  the scaled point; may be in or fixed; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_scalepnt2d(double sx, double sy, const pnt_2d *fixed, const pnt_2d *in, pnt_2d *out);
+
+/**
+ * Copies a list of plane points through a plane matrix. The first item's kind decides for the list: of pnt_2d and
+ * poly_2d every item with data is copied (its seqnr kept); of any other kind the copy is empty. A point that finds no
+ * memory is reported and left out, the others follow.
+ * @param[in] m  9 doubles
+ * @param[in,out] polygon  the points; the current item ends at the head
+ * @return the new list, its current item the last, to be freed by kx_purge_polygon; null when the input is null or
+ *   empty, m is null, or there is no memory for the list
+ */
+KX_API list_hdr *KX_CALL kx_transfpolygon(const double *m, list_hdr *polygon);
+
+/* ---- viewing ---- */
+
+/**
+ * Maps a point from a window onto a viewport: the window's corner (x1, y1) falls on the viewport's, (x2, y2) likewise.
+ * A window without width or height divides by zero, and infinities or NaN come out, as IEEE arithmetic has them.
+ * @param[in] window  the rectangle mapped from
+ * @param[in] viewport  the rectangle mapped to; corners may be exchanged to mirror
+ * @param[in] p  the point
+ * @param[out] out  its image; may be p; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_windowtransform(const rect_2d *window, const rect_2d *viewport, const pnt_2d *p, pnt_2d *out);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "kxgeom/runtime.h"
+
+namespace {
+
+constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
+
+// 1 at and beyond the bound on the true side, 0 just past it; the bounds are exact binary numbers.
+constexpr double t = 0.125, past = 1e-9;
+constexpr double bound = (4.0 + 1.0) * t;  // the allowance of +-4
+
+}  // namespace
+
+TEST(comparisons, with_zero) {
+  for (double sign : {1.0, -1.0}) {
+    EXPECT_EQ(kx_parmzero(sign * t, t), 1);
+    EXPECT_EQ(kx_parmzero(sign * (t + past), t), 0);
+  }
+  EXPECT_EQ(kx_parmlezero(t, t), 1);
+  EXPECT_EQ(kx_parmlezero(t + past, t), 0);
+  EXPECT_EQ(kx_parmgezero(-t, t), 1);
+  EXPECT_EQ(kx_parmgezero(-t - past, t), 0);
+}
+
+TEST(comparisons, of_two_scale_the_tolerance_by_the_second) {
+  for (double b : {4.0, -4.0}) {
+    EXPECT_EQ(kx_parmeq(b + bound, b, t), 1);
+    EXPECT_EQ(kx_parmeq(b - bound, b, t), 1);
+    EXPECT_EQ(kx_parmeq(b + bound + past, b, t), 0);
+    EXPECT_EQ(kx_parmeq(b - bound - past, b, t), 0);
+    EXPECT_EQ(kx_parmle(b + bound, b, t), 1);
+    EXPECT_EQ(kx_parmle(b + bound + past, b, t), 0);
+    EXPECT_EQ(kx_parmge(b - bound, b, t), 1);
+    EXPECT_EQ(kx_parmge(b - bound - past, b, t), 0);
+  }
+  EXPECT_EQ(kx_parmeq(4.0, 4.6875, t), 1);
+  EXPECT_EQ(kx_parmeq(4.6875, 4.0, t), 0);
+}
+
+TEST(comparisons, strict_and_inclusive_are_opposites_also_for_nan) {
+  for (double a : {-5.0, -t, 0.0, t, 4.0, 4.0 + bound, 9.0, HUGE_VAL, not_a_number}) {
+    EXPECT_EQ(kx_parmnotzero(a, t), !kx_parmzero(a, t));
+    EXPECT_EQ(kx_parmgtzero(a, t), !kx_parmlezero(a, t));
+    EXPECT_EQ(kx_parmltzero(a, t), !kx_parmgezero(a, t));
+    EXPECT_EQ(kx_parmne(a, 4.0, t), !kx_parmeq(a, 4.0, t));
+    EXPECT_EQ(kx_parmgt(a, 4.0, t), !kx_parmle(a, 4.0, t));
+    EXPECT_EQ(kx_parmlt(a, 4.0, t), !kx_parmge(a, 4.0, t));
+  }
+  EXPECT_TRUE(kx_parmzero(not_a_number, t) && kx_parmlezero(not_a_number, t) && kx_parmgezero(not_a_number, t));
+  EXPECT_TRUE(kx_parmeq(not_a_number, 1.0, t) && kx_parmle(1.0, not_a_number, t) && kx_parmge(1.0, 1.0, not_a_number));
+}
+
+TEST(comparisons, points) {
+  double small = 1e-7, large = 1.1e-7;
+  kx_settozero(&small);
+  kx_settozero(&large);
+  kx_settozero(nullptr);
+  EXPECT_EQ(small, 0.0);
+  EXPECT_EQ(large, 1.1e-7);
+  for (int axis = 0; axis < 3; ++axis)
+    for (double off : {1e-7, -1e-7, 1.1e-7, -1.1e-7}) {
+      const pnt_3d o{0, 0, 0}, p{axis == 0 ? off : 0, axis == 1 ? off : 0, axis == 2 ? off : 0};
+      const pnt_2d o2{0, 0}, p2{p.x, p.y};
+      EXPECT_EQ(kx_samepnt3d(&p, &o), std::fabs(off) <= 1e-7);
+      EXPECT_EQ(kx_samepnt(&p2, &o2), axis == 2 || std::fabs(off) <= 1e-7);
+    }
+  const pnt_2d far_p{1000.0, 0.0}, far_q{1000.0001, 0.0};
+  EXPECT_EQ(kx_samepnt(&far_p, &far_q), 0);  // absolute, however far out
+  EXPECT_EQ(kx_samepnt(nullptr, &far_q) + kx_samepnt3d(nullptr, nullptr) + kx_smallerpnt(&far_p, nullptr), 0);
+  const pnt_2d below{1000.00005, -1.0}, above{1000.0, 1.0}, left{999.0, 5.0};
+  EXPECT_TRUE(kx_smallerpnt(&below, &above) && kx_smallerpnt(&above, &above) && kx_smallerpnt(&left, &below));
+  EXPECT_FALSE(kx_smallerpnt(&above, &below) || kx_smallerpnt(&below, &left));
+}
+
+TEST(comparisons, between) {
+  for (double x : {0.0, -1e-7, 5.0, 10.0, 10.0000011}) EXPECT_TRUE(kx_between(x, 0, 10) && kx_between(x, 10, 0)) << x;
+  for (double x : {-1.1e-7, 10.0000012, -5.0, 15.0, not_a_number})
+    EXPECT_FALSE(kx_between(x, 0, 10) || kx_between(x, 10, 0)) << x;
+  for (const line_2d &line : {line_2d{0, 8, 4, -8}, line_2d{4, -8, 0, 8}})
+    for (double x : {-0.00001, -1e-7, 2.0, 4.0000005, 4.00001})
+      for (double y : {-8.00001, -8.0000009, 0.0, 8.0, 8.00001}) {
+        const pnt_2d p{x, y};
+        EXPECT_EQ(kx_inbetween(&line, &p), kx_between(x, 0, 4) && kx_between(y, -8, 8)) << x << ' ' << y;
+      }
+  EXPECT_EQ(kx_inbetween(nullptr, nullptr), 0);
+  EXPECT_EQ(kx_rmax(1.0, 1.00000005), 1.00000005);
+  EXPECT_EQ(kx_rmax(1.00000005, 1.0), 1.0);
+  EXPECT_EQ(kx_rmin(1.0, 1.00000005), 1.00000005);
+  EXPECT_EQ(kx_rmax(2.0, 1.0) + kx_rmax(1.0, 2.0), 4.0);
+  EXPECT_EQ(kx_rmin(2.0, 1.0) + kx_rmin(1.0, 2.0), 2.0);
+}

@@ -1,0 +1,78 @@
+#include "kxgeom/runtime.h"
+
+#include <cstring>
+
+#include "support/faults.hpp"
+
+namespace {
+
+std::string bytes(const char *text, std::size_t n) { return {text, n}; }
+
+}  // namespace
+
+TEST(strings, copy) {
+  char to[7] = "......";
+  kx_strcpy(to, 4, "abcdef");
+  EXPECT_EQ(bytes(to, 6), bytes("abc\0..", 6));
+  kx_strcpy(to, 6, "x");
+  EXPECT_EQ(bytes(to, 6), bytes("x\0\0\0\0\0", 6));
+  kx_strcpy(to, 1, "abc");
+  EXPECT_EQ(to[0], '\0');
+  kx_strfill(to, 6, 'b');
+  kx_strcpy(to, 0, "a");
+  kx_strcpy(to, -1, "a");
+  kx_strcpy(nullptr, 4, "a");
+  kx_strfill(to, -1, 'a');
+  kx_strfill(nullptr, 1, 'a');
+  EXPECT_STREQ(to, "bbbbbb");
+  kx_strcpy(to, 4, nullptr);
+  EXPECT_EQ(bytes(to, 6), bytes("\0\0\0\0bb", 6));
+  std::strcpy(to, "abcde");
+  kx_strcpy(to, 6, to + 2);
+  EXPECT_EQ(bytes(to, 6), bytes("cde\0\0\0", 6));
+}
+
+TEST(strings, length_equality_and_joining) {
+  char to[16] = "ab";
+  EXPECT_EQ(kx_strlen("abc") + kx_strlen("") + kx_strlen(nullptr), 3);
+  EXPECT_EQ(kx_strcmp("", ""), 1);
+  EXPECT_EQ(kx_strcmp("ab", to), 1);
+  EXPECT_EQ(kx_strcmp("a", to) + kx_strcmp(to, "b") + kx_strcmp(nullptr, nullptr) + kx_strcmp(to, nullptr), 0);
+  EXPECT_EQ(kx_strcat(to, "cd"), 4);
+  EXPECT_EQ(kx_strcat(to, to), 8);
+  EXPECT_STREQ(to, "abcdabcd");
+  EXPECT_EQ(kx_strcat(nullptr, "a") + kx_strcat(to, nullptr), 0);
+}
+
+TEST(strings, padding_and_trimming) {
+  const struct {
+    const char *text;
+    int size, mode, result;
+    const char *expected;
+  } rows[] = {
+      {"ab", 5, 1, 2, "ab  "},      {"ab  ", 5, 0, 4, "ab"},   {"abcd", 5, 1, 4, "abcd"}, {"abcde", 5, 1, 5, "abcd"},
+      {"abcdef", 5, 1, 5, "abcde"}, {"", 1, 1, 0, ""},         {"", 3, 1, 0, "  "},       {"abc", 0, 1, 0, ""},
+      {"abc", -1, 1, 0, "abc"},     {"ab  cd", 4, 0, 4, "ab"}, {"   ", 9, 2, 3, ""},      {"a b ", 4, 7, 4, "a b"},
+  };
+  for (const auto &row : rows) {
+    char text[16] = "";
+    std::strcpy(text, row.text);
+    EXPECT_EQ(kx_strmake(text, row.size, row.mode), row.result) << row.text << row.size;
+    EXPECT_STREQ(text, row.expected) << row.text << row.size;
+  }
+  EXPECT_EQ(kx_strmake(nullptr, 3, 1), 0);
+}
+
+TEST(strings, arrays) {
+  const auto check = [](int failed, int n, char *array) {
+    EXPECT_EQ(array == nullptr, failed != 0);
+    std::vector<std::string> expected;
+    if (failed) expected.push_back("Memory Error: kx_create_char_array");
+    EXPECT_EQ(faults::messages(), expected);
+    if (array) kx_strfill(array, n + 1, 'x');
+    kx_purge_char_array(array);
+  };
+  EXPECT_EQ(faults::fail_each_allocation([] { return 5; }, kx_create_char_array, check), 1);
+  EXPECT_EQ(kx_create_char_array(-1), nullptr);
+  EXPECT_TRUE(faults::messages().empty());
+}
