@@ -69,5 +69,9 @@ configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/kxgeomConfig.cmake.in 
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/kxgeomConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/kxgeomConfig.cmake ${CMAKE_BINARY_DIR}/kxgeomConfigVersion.cmake
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/kxgeom)
+# Found from where the file lies, so that an installed tree can be moved.
+file(RELATIVE_PATH KX_PC_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+string(REGEX REPLACE "/$" "" KX_PC_PREFIX ${KX_PC_PREFIX})
+get_target_property(KX_PC_LIBRARY kxgeom OUTPUT_NAME)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/kxgeom.pc.in ${CMAKE_BINARY_DIR}/kxgeom.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/kxgeom.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,8 +1,6 @@
 // The curve record's life: create, copy, clear, purge; and the curv record.
 #include "curve_record.hpp"
 
-#include <initializer_list>
-
 #include "kxgeom/curves.h"
 #include "kxgeom/records.h"
 
@@ -15,13 +13,8 @@ void reset_numbers(curve &c) {
   std::memcpy(c.basis, kx::identity_basis, sizeof c.basis);
 }
 
-// A curve's point list, freed as a polygon; true when there is none.
-bool purge_points(list_hdr *&list) {
-  if (list == nullptr) return true;
-  if (kx_purge_polygon(list) != 0) return false;
-  list = nullptr;
-  return true;
-}
+// Frees a point list as a polygon. What is left of it: null, or the list when it is none.
+list_hdr *purge_points(list_hdr *list) { return list == nullptr || kx_purge_polygon(list) == 0 ? nullptr : list; }
 
 // Whether the lists may be freed behind control points of this datatype: hosts have always had 9 for the others.
 bool known_control_kind(std::int32_t datatype) { return datatype == KX_POLY_2D || datatype == KX_POLY_3D; }
@@ -60,21 +53,28 @@ void KX_CALL kx_init_curve(curve *c) {
   if (c == nullptr) return;
   *c = {};
   reset_numbers(*c);
-  for (auto list : kx::curve_lists) {
-    c->*list = ll_create_list();
-    if (c->*list != nullptr) continue;
-    for (auto created : kx::curve_lists) kx::dispose(c->*created);
+  list_hdr *lists[5] = {};
+  for (int i = 0; i < 5; ++i) {
+    lists[i] = ll_create_list();
+    if (lists[i] != nullptr) continue;
+    while (i > 0) ll_purge_list(lists[--i]);
     return;
   }
+  c->weights = lists[0];
+  c->knots = lists[1];
+  c->ctrl_pnts = lists[2];
+  c->curve_pnts = lists[3];
+  c->curve_stats = lists[4];
 }
 
 std::int32_t KX_CALL kx_purge_curve(curve *c) {
   if (c == nullptr) return 9;
   const bool has_control_points = !kx::empty(c->ctrl_pnts);
   const std::int32_t kind = kx::datatype(c->ctrl_pnts);
-  const bool control_freed = purge_points(c->ctrl_pnts), samples_freed = purge_points(c->curve_pnts);
+  c->ctrl_pnts = purge_points(c->ctrl_pnts);
+  c->curve_pnts = purge_points(c->curve_pnts);
   if (has_control_points && !known_control_kind(kind)) return 9;
-  if (!control_freed || !samples_freed) return 9;
+  if (c->ctrl_pnts || c->curve_pnts) return 9;
   kx::dispose(c);
   return 0;
 }
@@ -89,11 +89,10 @@ curve *KX_CALL kx_copy_curve(curve *source) {
   copy->step = source->step;
   std::memcpy(copy->basis, source->basis, sizeof copy->basis);
   bool copied = copy_statistics(source->curve_stats, *copy->curve_stats);
-  for (auto list : kx::curve_lists) {
-    if (!copied) break;
-    if (list != &curve::curve_stats && !kx::empty(source->*list)) {
-      copied = kx_copy_polygon(source->*list, copy->*list) >= 0;
-    }
+  const kx::list_set from = kx::lists_of(*source), to = kx::lists_of(*copy);
+  for (int i = 0; copied && i < 5; ++i) {
+    if (to.list[i] == copy->curve_stats || kx::empty(from.list[i])) continue;
+    copied = kx_copy_polygon(from.list[i], to.list[i]) >= 0;
   }
   if (copied) return copy;
   kx::dispose(copy);
@@ -103,17 +102,12 @@ curve *KX_CALL kx_copy_curve(curve *source) {
 std::int32_t KX_CALL kx_clear_curve(curve *c, std::int32_t purge_lists) {
   if (c == nullptr) return 40;
   const std::int32_t kind = kx::datatype(c->ctrl_pnts);
-  for (list_hdr *list : {c->ctrl_pnts, c->curve_pnts}) {
-    if (list) kx::release_items(*list);
-  }
+  kx::release_items_of(c->ctrl_pnts);
+  kx::release_items_of(c->curve_pnts);
   if (!known_control_kind(kind) && !kx::empty(c->curve_stats)) return kind - KX_POLY_3D;
-  for (list_hdr *list : {c->curve_stats, c->knots, c->weights}) {
-    if (list) kx::release_items(*list);
-  }
+  for (list_hdr *list : kx::lists_of(*c)) kx::release_items_of(list);
   reset_numbers(*c);
-  if (purge_lists == 1) {
-    for (auto list : kx::curve_lists) kx::dispose(c->*list);
-  }
+  if (purge_lists == 1) kx::dispose_lists(*c);
   return 4;
 }
 

@@ -32,24 +32,42 @@ inline constexpr std::int32_t max_degree = 15;
 
 inline constexpr double identity_basis[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 
-// The five lists in the order of the record.
-inline constexpr list_hdr *curve::*curve_lists[] = {&curve::weights, &curve::knots, &curve::ctrl_pnts,
-                                                    &curve::curve_pnts, &curve::curve_stats};
+// The five lists in the order of the record. By value: the record is packed, so none of its fields may be referred to.
+struct list_set {
+  list_hdr *list[5];
 
-inline bool create_if_missing(list_hdr *&list) { return list != nullptr || (list = ll_create_list()) != nullptr; }
+  list_hdr *const *begin() const { return list; }
+  list_hdr *const *end() const { return list + 5; }
+};
 
-// Frees a list, its items and their data, whatever they are.
-inline void dispose(list_hdr *&list) {
-  if (list == nullptr) return;
-  release_items(*list);
-  release(list);
-  list = nullptr;
+inline list_set lists_of(const curve &c) { return {{c.weights, c.knots, c.ctrl_pnts, c.curve_pnts, c.curve_stats}}; }
+
+inline list_hdr *existing_or_new(list_hdr *list) { return list ? list : ll_create_list(); }
+
+// Sees to the lists that a maker fills; false after the memory message.
+inline bool create_outputs(curve &c) {
+  c.curve_pnts = existing_or_new(c.curve_pnts);
+  if (c.curve_pnts) c.curve_stats = existing_or_new(c.curve_stats);
+  return c.curve_pnts && c.curve_stats;
+}
+
+inline void release_items_of(list_hdr *list) {
+  if (list) release_items(*list);
+}
+
+// Frees all lists with their items and the items' data, whatever they are.
+inline void dispose_lists(curve &c) {
+  for (list_hdr *list : lists_of(c)) {
+    release_items_of(list);
+    release(list);
+  }
+  c.weights = c.knots = c.ctrl_pnts = c.curve_pnts = c.curve_stats = nullptr;
 }
 
 // Frees a curve whatever it holds, where kx_purge_curve would ask for the control points' kind.
 inline void dispose(curve *c) {
   if (c == nullptr) return;
-  for (auto list : curve_lists) dispose(c->*list);
+  dispose_lists(*c);
   release(c);
 }
 
@@ -80,12 +98,21 @@ struct sample {
   typename D::stats *stats;
 };
 
-// Appends a zeroed sample to both lists and hands it out to be filled, in place and without a copy; both null, nothing
-// appended, after the memory message.
+// Statistics that are not zeroed: the zeros of a record about to be written whole would cost a quarter of a sample.
+template <class D>
+inline typename D::stats *create_raw_stats() {
+  void *block = allocate(sizeof(typename D::stats));
+  if (block == nullptr) [[unlikely]]
+    report_no_memory(D::stats_location);
+  return static_cast<typename D::stats *>(block);
+}
+
+// Appends a sample to both lists and hands it out, not initialised, to be filled in place; both null, nothing appended,
+// after the memory message.
 template <class D>
 inline sample<D> append_sample(curve &c) {
   auto *point = D::create_vertex();
-  auto *stats = point ? create<typename D::stats>(D::stats_location) : nullptr;
+  auto *stats = point ? create_raw_stats<D>() : nullptr;
   list_item *point_item = stats ? create_item(point, D::vertex_tag) : nullptr;
   list_item *stats_item = point_item ? create_item(stats, D::stats_tag) : nullptr;
   if (stats_item == nullptr) [[unlikely]] {

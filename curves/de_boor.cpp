@@ -23,7 +23,7 @@ std::int32_t polynomial(double t, std::int32_t degree, typename D::vertex *const
   if (const std::int32_t code = check(t, degree, ctrl, knots, out)) return code;
   typename D::vector d[kx::max_degree + 1];
   for (std::int32_t i = 0; i <= degree; ++i) d[i] = D::read(*ctrl[i]);
-  *out = D::make_point(kx::de_boor<0>(d, degree, knots, t));
+  *out = D::make_point(kx::de_boor<0>(d, degree, kx::parts_at(t, degree, knots)));
   return 0;
 }
 
@@ -35,7 +35,7 @@ std::int32_t rational(double t, std::int32_t degree, typename D::vertex *const *
   kx::weighted<typename D::vector> d[kx::max_degree + 1];
   for (std::int32_t i = 0; i <= degree; ++i) d[i] = {weights[i] * D::read(*ctrl[i]), weights[i]};
   typename D::vector point;
-  if (!kx::project(kx::de_boor<0>(d, degree, knots, t), point)) return 3;
+  if (!kx::project(kx::de_boor<0>(d, degree, kx::parts_at(t, degree, knots)), point)) return 3;
   *out = D::make_point(point);
   return 0;
 }

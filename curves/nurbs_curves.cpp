@@ -38,7 +38,10 @@ const list_item *next(const list_item *item) { return item ? item->next : nullpt
 // where it leaves the cursor behind the last one. False when an item holds no number.
 bool read_knots(list_hdr &list, std::int32_t skip, std::int64_t count, double *knots) {
   list_item *item = list.head;
-  const auto step = [&] { item = item->next ? item->next : list.head; };
+  const auto step = [&] {
+    item = item->next;
+    if (item == nullptr) item = list.head;
+  };
   for (std::int32_t i = 0; i < skip; ++i) step();
   for (std::int64_t i = 0; i < count; ++i, step()) {
     if (!read_number(item, knots[i])) return false;
@@ -52,6 +55,8 @@ template <class D, int Degree>
 std::int32_t sample_span(curve &c, const kx::weighted<typename D::vector> *points, const double *knots,
                          std::int64_t steps, std::uint32_t &number) {
   const int p = Degree > 0 ? Degree : c.degree;
+  const auto none = D::make_vector({}, 0.0);
+  const kx::inverse_differences inverse(p, knots);
   const double start = knots[p - 1], h = knots[p] - start;
   for (std::int64_t j = 0; j <= steps; ++j) {
     const double u = static_cast<double>(j) * h / static_cast<double>(steps) + start;
@@ -59,11 +64,11 @@ std::int32_t sample_span(curve &c, const kx::weighted<typename D::vector> *point
     kx::weighted<typename D::vector> d[Degree > 0 ? Degree + 1 : kx::max_degree + 1];
     for (int i = 0; i <= p; ++i) d[i] = points[i];
     typename D::vector at;
-    if (!kx::project(kx::de_boor<Degree>(d, p, knots, u), at)) return 5;
+    if (!kx::project(kx::de_boor<Degree>(d, p, inverse.parts_at(u, p, knots)), at)) return 5;
     const kx::sample<D> sample = kx::append_sample<D>(c);
     if (sample.point == nullptr) return 80;
     *sample.point = D::make_vertex(static_cast<std::int32_t>(number++), at);
-    sample.stats->t = u;
+    *sample.stats = {u, none, none, none};
   }
   return 0;
 }
@@ -104,7 +109,7 @@ std::int32_t make(curve *c, std::int32_t skip, std::int32_t skip_enable, std::in
   if (std::int64_t{c->ctrl_pnts->count} - (skip > 0 ? skip - 1 : 0) < p + 1) return 2;
   const std::int64_t m = std::int64_t{n_spans} + 2 * p - 2;
   if (c->knots->count <= m) return 4;
-  if (!kx::create_if_missing(c->curve_pnts) || !kx::create_if_missing(c->curve_stats)) return 80;
+  if (!kx::create_outputs(*c)) return 80;
 
   const kx::scratch<double> knots(m < 0 ? 1 : m + 1);
   if (!knots) {
@@ -126,8 +131,8 @@ std::int32_t make(curve *c, std::int32_t skip, std::int32_t skip_enable, std::in
 std::int32_t KX_CALL kx_mk_nurb_curve(curve *c, std::int32_t skip, std::int32_t skip_enable, std::int32_t n_spans,
                                       std::int32_t steps) {
   if (c == nullptr) return 1;
-  if (c->curve_type == curve_codes<plane>::nurbs) return make<plane>(c, skip, skip_enable, n_spans, steps);
-  if (c->curve_type == curve_codes<space>::nurbs) return make<space>(c, skip, skip_enable, n_spans, steps);
+  if (c->curve_type == curve_codes<plane>::nurbs) return kx_mk_nurb_curve2d(c, skip, skip_enable, n_spans, steps);
+  if (c->curve_type == curve_codes<space>::nurbs) return kx_mk_nurb_curve3d(c, skip, skip_enable, n_spans, steps);
   return 3;
 }
 

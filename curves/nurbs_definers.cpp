@@ -22,9 +22,10 @@ std::int32_t check_bspline(const list_hdr *ctrl, const list_hdr *knots, std::int
 // False, nothing changed, when the curve lacks a list and none can be created.
 bool fill(curve &c, list_hdr *ctrl, list_hdr *knots, list_hdr *weights, detached how, std::int32_t degree,
           std::int32_t steps) {
-  if (!kx::create_if_missing(c.ctrl_pnts) || !kx::create_if_missing(c.knots) || !kx::create_if_missing(c.weights)) {
-    return false;
-  }
+  c.ctrl_pnts = kx::existing_or_new(c.ctrl_pnts);
+  if (c.ctrl_pnts) c.knots = kx::existing_or_new(c.knots);
+  if (c.ctrl_pnts && c.knots) c.weights = kx::existing_or_new(c.weights);
+  if (!c.ctrl_pnts || !c.knots || !c.weights) return false;
   const list_hdr points = kx::take_items(ctrl, how), values = kx::take_items(knots, how),
                  factors = kx::take_items(weights, how);
   kx::replace_items(*c.ctrl_pnts, points);

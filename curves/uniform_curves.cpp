@@ -17,9 +17,9 @@ template <class V>
 struct segment {
   V c[4];
 
-  segment(const double *basis, const V *g) {
-    for (int i = 0; i < 4; ++i, basis += 4)
-      c[i] = basis[0] * g[0] + basis[1] * g[1] + basis[2] * g[2] + basis[3] * g[3];
+  segment(const curve &of, const V *g) {
+    for (int i = 0; i < 16; i += 4)
+      c[i / 4] = of.basis[i] * g[0] + of.basis[i + 1] * g[1] + of.basis[i + 2] * g[2] + of.basis[i + 3] * g[3];
   }
 };
 
@@ -95,7 +95,7 @@ template <class D>
 std::int32_t make(curve *c, double step) {
   using vector = typename D::vector;
   if (c == nullptr) return 1;
-  if (!kx::create_if_missing(c->curve_pnts) || !kx::create_if_missing(c->curve_stats)) return 80;
+  if (!kx::create_outputs(*c)) return 80;
   c->step = step = step > kx::tolerance && std::isfinite(step) ? step : 0.1;
   const bool bezier = c->curve_type == kx::curve_codes<D>::bezier;
   std::int32_t n = kx::item_count(c->ctrl_pnts);
@@ -109,7 +109,7 @@ std::int32_t make(curve *c, double step) {
   }
   std::uint32_t number = 0;
   for (std::int32_t k = 3;; ++k) {
-    const segment<vector> s(c->basis, g);
+    const segment<vector> s(*c, g);
     for (double t = 0.0; kx::less_equal(t, 1.0); t += step, ++number) {
       // The joint is the end of the segment before, and takes a number all the same: hosts count tries by it.
       if (k > 3 && kx::near_zero(t)) continue;
@@ -138,7 +138,7 @@ std::int32_t KX_CALL kx_mk_ucurve(curve *c, double step) {
   if (c == nullptr || c->ctrl_pnts == nullptr) return 80;
   const std::int32_t tag = kx::datatype(c->ctrl_pnts);
   if (!kx::is_point(tag)) return -1;
-  return kx::is_plane_point(tag) ? make<plane>(c, step) : make<space>(c, step);
+  return kx::is_plane_point(tag) ? kx_mk_ucurve2d(c, step) : kx_mk_ucurve3d(c, step);
 }
 
 std::int32_t KX_CALL kx_mk_ucurve2d(curve *c, double step) { return make<plane>(c, step); }
@@ -155,7 +155,7 @@ std::int32_t KX_CALL kx_eval_t_on_ucurve2d(const curve *c, double t, poly_2d *co
   }
   if (!kx::in_unit_interval(t)) return 2;
   curve_stats_2d stats;
-  const vec2 at = evaluate<plane>(segment<vec2>(c->basis, g), t, stats);
+  const vec2 at = evaluate<plane>(segment<vec2>(*c, g), t, stats);
   if (point) *point = plane::make_point(at);
   if (tangent) *tangent = stats.tangent;
   if (second) *second = stats.second;

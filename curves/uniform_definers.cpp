@@ -46,7 +46,8 @@ void define(const uniform_kind &kind, std::int32_t code, list_hdr &ctrl, curve &
 
 std::int32_t define_plane(const uniform_kind &kind, list_hdr *ctrl, curve *c) {
   if (ctrl == nullptr || c == nullptr) return 40;
-  if (!kx::create_if_missing(c->ctrl_pnts)) return 80;
+  c->ctrl_pnts = kx::existing_or_new(c->ctrl_pnts);
+  if (c->ctrl_pnts == nullptr) return 80;
   define(kind, kind.plane_code, *ctrl, *c);
   return 0;
 }

@@ -18,25 +18,40 @@ list_item *pick(const list_hdr &list, std::int32_t which) {
 void link_before(list_hdr &list, list_item *item, list_item *next) {
   item->next = next;
   item->prev = next->prev;
-  (next->prev ? next->prev->next : list.head) = item;
+  if (next->prev) {
+    next->prev->next = item;
+  } else {
+    list.head = item;
+  }
   next->prev = item;
 }
 
 // The item keeps its own links, so that its neighbours can still be found from it.
 void unlink(list_hdr &list, const list_item *item) {
-  (item->prev ? item->prev->next : list.head) = item->next;
-  (item->next ? item->next->prev : list.tail) = item->prev;
+  if (item->prev) {
+    item->prev->next = item->next;
+  } else {
+    list.head = item->next;
+  }
+  if (item->next) {
+    item->next->prev = item->prev;
+  } else {
+    list.tail = item->prev;
+  }
 }
 
 list_item *current_after(const list_hdr &list, const list_item *removed, std::int32_t new_current) {
+  list_item *const current = list.current;
+  list_item *const next = current ? current->next : nullptr;
+  list_item *const prev = current ? current->prev : nullptr;
   switch (new_current) {
     case 0: return list.head;
     case 1: return list.tail;
-    case 2: return list.current && list.current->next ? list.current->next : list.head;
-    case 3: return list.current && list.current->prev ? list.current->prev : list.tail;
+    case 2: return next ? next : list.head;
+    case 3: return prev ? prev : list.tail;
     default:
-      if (list.current != removed) return list.current;
-      return removed->next ? removed->next : list.head;
+      if (current != removed) return current;
+      return next ? next : list.head;
   }
 }
 

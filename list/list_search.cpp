@@ -1,6 +1,4 @@
 // Searching item by item, and turning the order of a list.
-#include <utility>
-
 #include "items.hpp"
 #include "kxgeom/list.h"
 
@@ -39,15 +37,14 @@ std::int32_t KX_CALL ll_search_list(list_hdr *list, std::int32_t start, std::int
     list->current = first;
     return 1;
   }
-  const list_item *neighbour = direction == 2 ? first->next : first->prev;
-  return first == last || neighbour == nullptr ? 2 : 0;
+  const bool more = direction == 2 ? first->next != nullptr : first->prev != nullptr;
+  return first != last && more ? 0 : 2;
 }
 
 void KX_CALL ll_rearrange_list(list_hdr *list, std::int32_t reverse) {
   if (kx::empty(list)) return;
   if (list->current && list->current->prev) make_head(*list, list->current);
   if (reverse != 1) return;
-  for (list_item &item : kx::items(list)) std::swap(item.prev, item.next);
-  std::swap(list->head, list->tail);
-  list->current = list->head;
+  for (list_item &item : kx::items(list)) item = {item.data, item.datatype, item.next, item.prev};
+  *list = {list->tail, list->head, list->tail, list->count};
 }

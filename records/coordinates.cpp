@@ -1,10 +1,6 @@
 // Points in other coordinates: their values are stored and read by the entries for three and four doubles.
 #include "kxgeom/records.h"
-#include "output.hpp"
 #include "runtime/memory.hpp"
-#include "runtime/tolerance.hpp"
-
-using kx::put;
 
 cylcoord *KX_CALL kx_create_cylcoord(void) { return kx::create<cylcoord>("kx_create_cylcoord"); }
 

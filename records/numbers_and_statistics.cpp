@@ -3,7 +3,6 @@
 #include "kxgeom/records.h"
 #include "output.hpp"
 #include "runtime/memory.hpp"
-#include "runtime/tolerance.hpp"
 
 using kx::put;
 

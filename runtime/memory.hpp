@@ -14,7 +14,8 @@ namespace kx {
 inline void *allocate(std::size_t bytes) { return bytes > PTRDIFF_MAX ? nullptr : std::malloc(bytes); }
 inline void release(void *block) { std::free(block); }
 
-// Bytes of count elements; SIZE_MAX, which is never granted, when that is negative or more than the platform can address.
+// Bytes of count elements; SIZE_MAX, which is never granted, when that is negative or more than the platform can
+// address.
 inline std::size_t array_bytes(std::int64_t count, std::size_t element) {
   if (count < 0 || static_cast<std::uint64_t>(count) > PTRDIFF_MAX / element) return SIZE_MAX;
   return static_cast<std::size_t>(count) * element;

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "kxgeom/runtime.h"
+#include "quarter_turn.hpp"
 #include "tolerance.hpp"
 
 namespace {
@@ -31,29 +32,11 @@ int32_t part_of_angle(double angle, double turn, int parts) {
   return std::isfinite(angle) ? part_of_turn(in_one_turn(angle, turn), turn, parts) + 1 : 0;
 }
 
-// A direction turned back by whole quarters until it points along the first axis or into the first quadrant, and the
-// quadrant it came from; 0 when it has none.
-struct turned_back {
-  int quadrant;
-  double along, across;
-};
-
-turned_back to_first_quadrant(double dx, double dy) {
-  if (!std::isfinite(dx) || !std::isfinite(dy)) return {0, 0.0, 0.0};
-  if (kx::near_zero(dx)) dx = 0.0;
-  if (kx::near_zero(dy)) dy = 0.0;
-  if (dx > 0.0 && dy >= 0.0) return {1, dx, dy};
-  if (dx <= 0.0 && dy > 0.0) return {2, dy, -dx};
-  if (dx < 0.0 && dy <= 0.0) return {3, -dx, -dy};
-  if (dx >= 0.0 && dy < 0.0) return {4, -dy, dx};
-  return {0, 0.0, 0.0};
-}
-
 pnt_2d direction(const pnt_2d *from, const pnt_2d &p) { return from ? pnt_2d{p.x - from->x, p.y - from->y} : p; }
 
 }  // namespace
 
-int32_t KX_CALL kx_quadrant(double dx, double dy) { return to_first_quadrant(dx, dy).quadrant; }
+int32_t KX_CALL kx_quadrant(double dx, double dy) { return kx::to_first_quadrant(dx, dy).quadrant; }
 
 int32_t KX_CALL kx_quadrant_deg(double angle) { return part_of_angle(angle, turn_deg, 4); }
 
@@ -66,7 +49,7 @@ int32_t KX_CALL kx_quadrant_pnt(const pnt_2d *from, const pnt_2d *p) {
 }
 
 int32_t KX_CALL kx_octant(double dx, double dy) {
-  const turned_back d = to_first_quadrant(dx, dy);
+  const kx::turned_back d = kx::to_first_quadrant(dx, dy);
   if (d.quadrant == 0) return 0;
   return 2 * d.quadrant - (d.across > 0.0 && kx::greater_equal(d.across, d.along) ? 0 : 1);
 }

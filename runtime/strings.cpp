@@ -51,7 +51,7 @@ int32_t KX_CALL kx_strmake(char *text, int32_t size, int32_t mode) {
   if (length > bytes) text[bytes] = '\0';
   if (mode == 1) {
     if (length <= bytes) {  // a longer text keeps `size` characters, one more than fits a padded one: on purpose
-      if (length < bytes - 1) std::memset(text + length, ' ', bytes - 1 - length);
+      std::memset(text + length, ' ', bytes - length);
       text[bytes - 1] = '\0';
     }
   } else {

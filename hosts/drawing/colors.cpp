@@ -11,7 +11,7 @@ namespace {
 rgb on_paper(rgb color) {
   const double luminance = 0.299 * color.red + 0.587 * color.green + 0.114 * color.blue;
   if (luminance > 0.95) return {0, 0, 0};
-  constexpr double brightest = 0.6;
+  constexpr double brightest = 0.5;
   if (luminance <= brightest) return color;
   const double factor = brightest / luminance;
   return {color.red * factor, color.green * factor, color.blue * factor};

@@ -10,8 +10,6 @@ namespace kxdraw {
 
 namespace {
 
-constexpr std::size_t longest_value = 1000;
-
 std::string read_bytes(const std::string &path) {
   namespace fs = std::filesystem;
   std::error_code error;
@@ -46,6 +44,7 @@ class lines {
     return line;
   }
   std::size_t number() const { return number_; }
+  double done() const { return static_cast<double>(at_) / static_cast<double>(text_.size()); }
 
  private:
   const std::string &text_;
@@ -61,34 +60,31 @@ std::string trimmed(const std::string &line) {
   return first == std::string::npos ? std::string() : line.substr(first, line.find_last_not_of(blanks) - first + 1);
 }
 
-dxf_text read_dxf_file(const std::string &path) {
+void read_dxf_pairs(const std::string &path, const pair_visitor &visit) {
   std::string bytes = read_bytes(path);
   if (bytes.empty()) throw drawing_error(path + ": is empty");
   if (bytes.starts_with("AutoCAD Binary DXF")) throw drawing_error(path + ": is a binary DXF, only text is read");
   if (bytes.find('\0') != std::string::npos) throw drawing_error(path + ": is not a DXF drawing, it holds binary data");
   if (bytes.starts_with("\xEF\xBB\xBF")) bytes.erase(0, 3);
 
-  dxf_text result;
-  result.text.reserve(bytes.size());
   lines input(bytes);
+  bool begun = false;
   while (true) {
     const std::optional<std::string> code_line = input.next();
     const std::optional<std::string> value_line = input.next();
     if (!code_line || !value_line) {
-      if (result.pairs == 0) throw drawing_error(path + ": is not a DXF drawing");
-      throw drawing_error(path + ": is truncated, it ends without EOF");
+      throw drawing_error(path + (begun ? ": is truncated, it ends without EOF" : ": is not a DXF drawing"));
     }
     const std::optional<int> code = group_code(trimmed(*code_line));
     if (code == 999) continue;
-    std::string value = trimmed(*value_line);
-    if (result.pairs == 0 && (code != 0 || value != "SECTION"))
+    const std::string value = trimmed(*value_line);
+    if (!begun && (code != 0 || value != "SECTION"))
       throw drawing_error(path + ": is not a DXF drawing, it does not begin with a SECTION");
     if (!code)
       throw drawing_error(path + ": is damaged, line " + std::to_string(input.number() - 1) + " is not a group code");
-    if (value.size() > longest_value) value.resize(longest_value);
-    result.text += std::to_string(*code) + '\n' + value + '\n';
-    ++result.pairs;
-    if (code == 0 && value == "EOF") return result;
+    begun = true;
+    visit(*code, value, input.done());
+    if (code == 0 && value == "EOF") return;
   }
 }
 

@@ -1,7 +1,7 @@
-// A DXF file as a clean sequence of group pairs.
+// A DXF file as a sequence of group pairs.
 #pragma once
 
-#include <cstddef>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -12,15 +12,12 @@ struct drawing_error : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-struct dxf_text {
-  std::string text;       // "code\nvalue\n" up to and including EOF, without comments
-  std::size_t pairs = 0;  // how many
-};
+// Gets a pair's group code and value, and how much of the file is read, from 0 to 1.
+using pair_visitor = std::function<void(int code, const std::string &value, double done)>;
 
-// Reads the file and makes sure that it is a whole text DXF: pairs of a group code and a value from the first SECTION
-// to EOF. Values longer than dxflib's line buffer are cut, because a line it reads in two pieces puts every pair after
-// it out of step; no value that is drawn is anywhere near that long. Throws drawing_error.
-dxf_text read_dxf_file(const std::string &path);
+// Reads a text DXF, pair by pair without the comments, from the first SECTION to EOF. Throws drawing_error when the
+// file is anything else or not whole.
+void read_dxf_pairs(const std::string &path, const pair_visitor &visit);
 
 // Without the blanks, tabs and carriage returns at both ends.
 std::string trimmed(const std::string &line);

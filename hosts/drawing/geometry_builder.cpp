@@ -10,7 +10,7 @@ namespace kxdraw {
 
 namespace {
 
-constexpr int most_copies = 1'000'000;           // of all entities together
+constexpr int most_copies = 1'000'000;           // of entities in blocks
 constexpr std::size_t most_points = 10'000'000;  // of the whole picture
 constexpr std::size_t deepest_nesting = 100;
 constexpr const char *too_much = "the drawing grows beyond what one picture can hold";
@@ -112,7 +112,7 @@ class builder {
   // Returns why the entity was not drawn, or nothing.
   std::string draw(const entity &ent, const place &where) {
     if (!ent.fault.empty()) return ent.fault;
-    ++copies_;
+    copies_ += where.blocks.empty() ? 0 : 1;
     if (full()) return too_much;
     const facing side = facing_of(ent.normal);
     const bool flat_only = ent.entity_coordinates || std::holds_alternative<ellipse_shape>(ent.geometry);

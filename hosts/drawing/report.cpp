@@ -51,7 +51,7 @@ void print_kinds(std::ostream &out, const built_drawing &built) {
 using reasons = std::map<std::pair<std::string, std::string>, std::vector<std::string>>;
 
 std::string name_of(const fate &f) {
-  return f.source->handle.empty() ? "#" + std::to_string(f.source->index) : f.source->handle;
+  return f.source->handle.empty() ? std::string("#").append(std::to_string(f.source->index)) : f.source->handle;
 }
 
 void print_reasons_of(std::ostream &out, const char *title, const reasons &found) {

@@ -149,7 +149,7 @@ void add_knots(owned_list &list, const std::vector<double> &knots) {
 std::string definer_meaning(const spline_shape &spline, std::int32_t status) {
   switch (status) {
     case 1:
-      return std::to_string(spline.control.size()) + " control points do not do for degree " +
+      return std::to_string(spline.control.size()) + " control points are too few for degree " +
              std::to_string(spline.degree);
     case 2:
       return std::to_string(spline.weights.size()) + " weights for " + std::to_string(spline.control.size()) +
@@ -163,7 +163,7 @@ std::string maker_meaning(const spline_shape &spline, std::int32_t status) {
   switch (status) {
     case 4:
     case 5:
-      if (status == 5 && spline.knots.size() >= 3) return "a weight that is zero";
+      if (status == 5 && spline.knots.size() >= 3) return "the weight of a point on it is zero";
       return std::to_string(spline.knots.size()) + " knots, " +
              std::to_string(spline.control.size() + static_cast<std::size_t>(spline.degree) + 1) + " are needed";
     default: return "";
@@ -206,10 +206,13 @@ bool all_finite(const std::vector<pnt_2d> &points) {
                      [](const pnt_2d &p) { return std::isfinite(p.x) && std::isfinite(p.y); });
 }
 
-std::string knots_fault(const spline_shape &spline, const std::vector<pnt_2d> &points) {
+// What the library takes but no drawing means.
+std::string spline_fault(const spline_shape &spline, const std::vector<pnt_2d> &points) {
   if (!std::is_sorted(spline.knots.begin(), spline.knots.end())) return "its knots are not in order";
   if (spline.knots.size() > spline.control.size() + static_cast<std::size_t>(spline.degree) + 1)
     return "it has more knots than control points and degree allow";
+  if (std::any_of(spline.weights.begin(), spline.weights.end(), [](double weight) { return weight < 0; }))
+    return "it has a negative weight";
   if (points.empty()) return "its knots leave no span to draw";
   return all_finite(points) ? "" : "its points are not finite";
 }
@@ -222,7 +225,7 @@ void shape_sampler::operator()(const spline_shape &spline) {
     const owned_curve c = time.measure(call_group::splines, 2, [&] { return spline_curve(spline, 2 * steps); });
     if (!c) return;
     const std::vector<pnt_2d> fine = curve_points(*c);
-    result.fault = knots_fault(spline, fine);
+    result.fault = spline_fault(spline, fine);
     if (!result.fault.empty()) return;
     const auto fine_steps = static_cast<std::size_t>(2 * steps);
     const double astray = largest_deviation(fine, fine_steps);

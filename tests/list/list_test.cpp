@@ -25,8 +25,8 @@ void expect_list(const list_hdr &list, const std::vector<void *> &want, int curs
   std::reverse(backward.begin(), backward.end());
   ASSERT_EQ(forward, want);
   ASSERT_EQ(backward, want);
-  ASSERT_EQ(list.count, static_cast<int>(want.size()));
-  ASSERT_EQ(list.current, current);
+  ASSERT_EQ(+list.count, static_cast<int>(want.size()));
+  ASSERT_TRUE(list.current == current);
 }
 
 struct model {
@@ -141,7 +141,7 @@ TEST(list, search_answers_in_the_order_of_its_tests) {
                {&one, 0, 1, 2, &none, 2}, {&two, 1, 0, 2, &none, 2}, {&two, 1, 0, 3, &none, 0},
                {&two, 4, 4, 2, &none, 2}, {&two, 0, 1, 2, &a, 1}};
   for (auto &c : cases) EXPECT_EQ(ll_search_list(c.list, c.start, c.end, c.direction, compare_address, c.key), c.want);
-  EXPECT_EQ(two.current, two.head) << "the match is current";
+  EXPECT_TRUE(two.current == two.head) << "the match is current";
   EXPECT_EQ(ll_search_list(&two, 0, 1, 2, nullptr, &a), 7);
   for (list_hdr *list : {&one, &two})
     while (list->head) ll_pop_list(list);
@@ -159,12 +159,12 @@ TEST(list, typed_items_keep_lists_of_one_kind) {
   ll_set_list_currpntr(list, 0);
   EXPECT_EQ(ll_add_pnt3d(list, 2, &deep), 1) << "appends: numbering has moved the position to the tail";
   const auto *tail = static_cast<poly_3d *>(list->tail->data);
-  EXPECT_EQ(tail->seqnr, 43);
-  EXPECT_EQ(tail->z, 8);
-  EXPECT_EQ(ll_get_pnt3d(list, 0).z, 3);
-  EXPECT_EQ(ll_get_pnt3d(list, 3).z, 0) << "the item before the tail";
-  EXPECT_EQ(ll_get_pnt2d(list, 2).x, 1) << "next of the tail wraps to the head";
-  EXPECT_EQ(list->current, list->tail) << "reading leaves the position";
+  EXPECT_EQ(+tail->seqnr, 43);
+  EXPECT_EQ(+tail->z, 8);
+  EXPECT_EQ(+ll_get_pnt3d(list, 0).z, 3);
+  EXPECT_EQ(+ll_get_pnt3d(list, 3).z, 0) << "the item before the tail";
+  EXPECT_EQ(+ll_get_pnt2d(list, 2).x, 1) << "next of the tail wraps to the head";
+  EXPECT_TRUE(list->current == list->tail) << "reading leaves the position";
   EXPECT_EQ(ll_add_inumber(list, 1, 3), 0);
   EXPECT_EQ(ll_add_string(list, 1, "x"), 0);
   EXPECT_EQ(ll_get_rnumber(list, 4), 0.0);
@@ -190,7 +190,7 @@ TEST(list, a_mixed_list_is_never_read_past_a_record) {
   EXPECT_EQ(ll_get_rnumber(list, 0), 0.0);
   EXPECT_EQ(ll_get_rnumber(list, 3), 0.0) << "a larger record is read as the current item's kind";
   ll_add_list_item(list, 1, kx_create_pnt_3d(), 51);
-  for (int which = 0; which < 5; ++which) EXPECT_EQ(ll_get_pnt3d(list, which).z, 0.0);
+  for (int which = 0; which < 5; ++which) EXPECT_EQ(+ll_get_pnt3d(list, which).z, 0.0);
   EXPECT_EQ(ll_get_string_len(list, 0), 0);
   EXPECT_EQ(ll_purge_all_items(list), 4);
 }
@@ -204,7 +204,7 @@ TEST(list, clearing_stops_at_data_that_is_not_its_own) {
   ll_set_list_currpntr(list, 0);
   ll_set_list_currpntr(list, 2);
   EXPECT_EQ(ll_purge_all_items(list), 3) << "the current item's tag closes the list";
-  EXPECT_EQ(list->count, 3);
+  EXPECT_EQ(+list->count, 3);
   ll_set_list_currpntr(list, 0);
   EXPECT_EQ(ll_clear_all_items(list), 3);
   expect_list(*list, {&stats, list->tail->data}, 0);

@@ -69,16 +69,16 @@ TEST(polygon_lists, copies_hold_the_same_bytes_in_records_of_their_own) {
     list_hdr *source = make_list(tag, 4), *copy = make_list(tag, 1);
     ll_set_list_currpntr(source, 3);
     ASSERT_EQ(kx_copy_polygon(source, copy), 4);
-    EXPECT_EQ(source->current, source->head);
+    EXPECT_TRUE(source->current == source->head);
     const list_item *from = source->head;
     for (const list_item *to = copy->head->next; to; to = to->next, from = from->next) {
-      EXPECT_EQ(to->datatype, tag);
-      EXPECT_NE(to->data, from->data);
+      EXPECT_EQ(+to->datatype, tag);
+      EXPECT_TRUE(to->data != from->data);
       EXPECT_EQ(std::memcmp(to->data, from->data, size_of(tag)), 0);
     }
     EXPECT_EQ(kx_copy_polygon(copy, copy), 5) << "a list copied onto itself doubles";
     EXPECT_EQ(kx_clear_polygon(copy), 10);
-    EXPECT_EQ(copy->head, nullptr);
+    EXPECT_TRUE(copy->head == nullptr);
     EXPECT_EQ(kx_purge_polygon(copy), 0) << "empty";
     EXPECT_EQ(kx_purge_polygon(source), 0);
   }
@@ -94,7 +94,7 @@ TEST(polygon_lists, other_kinds_are_refused_and_kept) {
     EXPECT_EQ(kx_purge_polygon(list), 9);
     EXPECT_EQ(kx_clear_polygon(list), 0);
     EXPECT_EQ(kx_delete_polygon(list, 0), 0);
-    EXPECT_EQ(list->count, 1);
+    EXPECT_EQ(+list->count, 1);
     ll_pop_list(list);
     EXPECT_EQ(ll_purge_list(list) + ll_purge_list(other), 0);
   }
@@ -106,12 +106,12 @@ TEST(polygon_lists, other_kinds_are_refused_and_kept) {
 TEST(polygon_lists, numbers_are_found_given_and_merged) {
   list_hdr *list = make_list(63, 4), *other = ll_create_list();
   EXPECT_EQ(kx_find_polygon_seqnr(list, 12), 1);
-  EXPECT_EQ(list->current, list->tail->prev);
+  EXPECT_TRUE(list->current == list->tail->prev);
   static_cast<poly_3d *>(list->head->data)->seqnr = 12;
   EXPECT_EQ(kx_find_polygon_seqnr(list, 12), 1);
-  EXPECT_EQ(list->current, list->tail->prev) << "the current item is tested first";
+  EXPECT_TRUE(list->current == list->tail->prev) << "the current item is tested first";
   EXPECT_EQ(kx_find_polygon_seqnr(list, 99), 0);
-  EXPECT_EQ(list->current, list->head);
+  EXPECT_TRUE(list->current == list->head);
   ll_set_list_currpntr(list, 2);
   EXPECT_EQ(kx_renum_polygon(list, 4, 100, -5), 3) << "from the current item";
   EXPECT_EQ(numbers(list), (std::vector<int32_t>{12, 100, 95, 90}));
@@ -127,7 +127,7 @@ TEST(polygon_lists, numbers_are_found_given_and_merged) {
   EXPECT_EQ(kx_renum_polygon(plane, 0, 0, 1), 0);
   ll_set_list_currpntr(plane, 0);
   EXPECT_EQ(kx_delete_polygon(plane, 2), 1);
-  EXPECT_EQ(plane->current, plane->tail);
+  EXPECT_TRUE(plane->current == plane->tail);
   EXPECT_EQ(kx_delete_polygon(plane, 4), 1);
   EXPECT_EQ(kx_delete_polygon(plane, 0), 0);
   for (list_hdr *l : {list, other, plane}) EXPECT_EQ(kx_purge_polygon(l), 0);
@@ -155,10 +155,10 @@ TEST(polygon_lists, heaps_and_lists_hold_the_points_of_arrays) {
     EXPECT_EQ(kx_get_xyzpolyheap(list, back, &room), 3);
     EXPECT_EQ(kx_get_xypolyheap(list, flat, &room), 3);
     for (int i = 0; i < 3; ++i) {
-      EXPECT_EQ(back[i].z, tag == 51 || tag == 63 ? space[i].z : 0);
+      EXPECT_EQ(+back[i].z, tag == 51 || tag == 63 ? space[i].z : 0);
       EXPECT_EQ(back[i].y + flat[i].x, space[i].y + plane[i].x);
     }
-    EXPECT_EQ(list->current, list->head);
+    EXPECT_TRUE(list->current == list->head);
     kx_purge_polygon(list);
   }
   EXPECT_EQ(kx_pnt2d_array_to_list(plane, 3, 81, 0, 1), nullptr);
@@ -185,8 +185,8 @@ TEST(polygon_lists, every_failing_allocation_is_reported_and_leaks_nothing) {
                 two, [](lists l) { return kx_copy_polygon(l.source, l.destination); },
                 [&](int n, lists l, int32_t result) {
                   EXPECT_EQ(result, n ? -1 : 2);
-                  EXPECT_EQ(l.destination->count, n == 0 ? 3 : 1 + (n - 1) / 2) << "copies made so far stay";
-                  EXPECT_EQ(l.source->count, 2);
+                  EXPECT_EQ(+l.destination->count, n == 0 ? 3 : 1 + (n - 1) / 2) << "copies made so far stay";
+                  EXPECT_EQ(+l.source->count, 2);
                   if (n)
                     EXPECT_EQ(faults::messages().at(0),
                               n % 2 ? "Memory Error: kx_create_poly_3D" : "Memory Error: ll_add_list_item");
@@ -197,7 +197,7 @@ TEST(polygon_lists, every_failing_allocation_is_reported_and_leaks_nothing) {
                 two, [](lists l) { return kx_merge_polygon(l.source, l.destination, 0, 1); },
                 [&](int n, lists l, int32_t result) {
                   EXPECT_EQ(result, n == 0);
-                  EXPECT_EQ(l.destination->count, n == 0 ? 2 : 1);
+                  EXPECT_EQ(+l.destination->count, n == 0 ? 2 : 1);
                   purge(l);
                 }),
             2);
@@ -209,7 +209,7 @@ TEST(polygon_lists, every_failing_allocation_is_reported_and_leaks_nothing) {
         const bool point =
             n % 2 == 1;  // a point that cannot be made empties the list, an item that cannot be added is left out
         EXPECT_EQ(result, n == 0 ? 3 : point ? 0 : 2);
-        EXPECT_EQ(l->count, result);
+        EXPECT_EQ(+l->count, result);
         if (n && !point)
           EXPECT_EQ(faults::messages(),
                     (std::vector<std::string>{"Memory Error: ll_add_list_item", "Memory Error: kx_put_xypolyheap"}));

@@ -107,8 +107,8 @@ TEST(records, the_larger_axis_of_an_ellipse_comes_first) {
   for (auto &c : cases) {
     ellipse_2d ellipse{0, 0, 0, 0, 8, 9};
     kx_set_ellipse_2d(1, 2, c.a, c.b, &ellipse);
-    EXPECT_EQ(ellipse.a, c.swapped ? c.b : c.a) << c.b;
-    EXPECT_EQ(ellipse.b, c.swapped ? c.a : c.b) << c.b;
+    EXPECT_EQ(+ellipse.a, c.swapped ? c.b : c.a) << c.b;
+    EXPECT_EQ(+ellipse.b, c.swapped ? c.a : c.b) << c.b;
     EXPECT_EQ(ellipse.value_1 * 10 + ellipse.value_2, 89) << "the setter leaves the two values alone";
   }
 }
@@ -116,13 +116,13 @@ TEST(records, the_larger_axis_of_an_ellipse_comes_first) {
 TEST(records, zero_points_settle_at_the_tolerance) {
   pnt_3d p{1e-7, -1e-7, 1.1e-7};
   kx_set_zeropnt_3d(&p);
-  EXPECT_EQ(p.x, 0);
-  EXPECT_EQ(p.y, 0);
-  EXPECT_EQ(p.z, 1.1e-7);
+  EXPECT_EQ(+p.x, 0);
+  EXPECT_EQ(+p.y, 0);
+  EXPECT_EQ(+p.z, 1.1e-7);
   pnt_2d nan{std::nan(""), -1.1e-7};
   kx_set_zeropnt_2d(&nan);
   EXPECT_TRUE(std::isnan(nan.x));
-  EXPECT_EQ(nan.y, -1.1e-7);
+  EXPECT_EQ(+nan.y, -1.1e-7);
 }
 
 // Every create function: a zeroed record, and on a full heap null after its own name in the memory message.

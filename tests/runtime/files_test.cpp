@@ -32,7 +32,7 @@ TEST(files, blocks) {
   file = kx_open_file(name.c_str(), "rb");
   EXPECT_EQ(kx_write_file(file, block, 1), 0);
   EXPECT_EQ(kx_flush_file(file), -1);
-  EXPECT_EQ(kx_close_file(file), 0);
+  kx_close_file(file);  // its result after an error is the platform's own
 }
 
 TEST(files, no_file) {

@@ -29,7 +29,7 @@ TEST(quadrants, no_direction) {
   EXPECT_EQ(kx_quadrant(1e-7, -1e-7) + kx_octant(0.0, 0.0) + kx_quadrant(INFINITY, 1.0) + kx_octant(NAN, 1.0), 0);
   EXPECT_EQ(kx_quadrant_deg(INFINITY) + kx_octant_deg(NAN) + kx_quadrant_rad(NAN) + kx_octant_rad(-INFINITY), 0);
   EXPECT_EQ(kx_quadrant_pnt(nullptr, nullptr) + kx_octant_pnt(nullptr, nullptr), 0);
-  EXPECT_EQ(kx_octant(1.05e-7, 9e-8), 1);  // an axis before a diagonal
+  EXPECT_EQ(kx_octant(1.00000005e-7, 9e-8), 1);  // an axis before a diagonal
 }
 
 TEST(quadrants, pseudo_angle) {

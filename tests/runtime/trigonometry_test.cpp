@@ -88,6 +88,7 @@ TEST(trigonometry, inverse_functions) {
     EXPECT_EQ(kx_arccosecant(1 + 2 * off), 90.0);
     EXPECT_EQ(kx_arccosecant(-1 + 2 * off), -90.0);
   }
+  EXPECT_TRUE(kx_arcsin(-1 + 1.5e-7) > -90.0 && kx_arccos(1 - 1.5e-7) > 0.0);
   EXPECT_TRUE(std::isnan(kx_arcsin(1 + 1.1e-7)) && std::isnan(kx_arccos(-1 - 1.1e-7)));
   EXPECT_EQ(kx_arccotangent(0.0), 1.5707963268 * degree);
   for (double x : {-0.9999997, 0.0, 0.9999997}) {

@@ -1,0 +1,285 @@
+"""Runs kxdraw on drawings and checks the points it drew against a second computation of every shape.
+
+usage: drawing_test.py KXDRAW SAMPLES; with KXGEOM_DRAWINGS set, the DXF files of that directory are drawn as well.
+"""
+import collections
+import functools
+import glob
+import math
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+KXDRAW, SAMPLES = sys.argv[1], sys.argv[2]
+DRAWINGS = sorted(glob.glob(os.path.join(SAMPLES, "*.dxf")) + glob.glob(os.path.join(os.environ.get("KXGEOM_DRAWINGS", "-"), "*.dxf")))
+Entity = collections.namedtuple("Entity", "index kind groups vertices")
+
+
+def read_dxf(path):
+    """The entities outside blocks, the blocks as name -> (base, entities), and the count of each kind."""
+    with open(path, encoding="latin-1") as file:
+        lines = [line.strip() for line in file]
+    pairs = [(int(code), value) for code, value in zip(lines[::2], lines[1::2])]
+    records = []
+    for code, value in (pair for pair in pairs if pair[0] != 999):
+        if code == 0:
+            records.append((value, []))
+        else:
+            records[-1][1].append((code, value))
+    section, home, model, blocks, kinds, count = "", None, [], {}, collections.Counter(), 0
+    for kind, groups in records:
+        if kind == "SECTION":
+            section, home = groups[0][1], model
+        elif kind == "BLOCK" and section == "BLOCKS":
+            home = []
+            get = dict(groups)
+            blocks[get[2].upper()] = ((float(get[10]), float(get[20])), home)
+        elif kind == "VERTEX":
+            home[-1].vertices.append(groups)
+        elif section in ("BLOCKS", "ENTITIES") and kind not in ("ENDBLK", "SEQEND", "ENDSEC", "EOF"):
+            home.append(Entity(count, kind, groups, []))
+            kinds[kind] += 1
+            count += 1
+    return model, blocks, kinds
+
+
+def values(groups, code):
+    return [float(value) for c, value in groups if c == code]
+
+
+def one(groups, code, default=0.0):
+    return (values(groups, code) or [default])[0]
+
+
+# Matrices are functions on complex numbers: a plane transform is z -> p*z + q*conj(z) + t.
+def placed(entities, blocks, m, found, within=()):
+    for ent in entities:
+        flat = m
+        if one(ent.groups, 230, 1.0) < 0 and ent.kind in ("CIRCLE", "ARC", "LWPOLYLINE", "POLYLINE", "SOLID", "INSERT"):
+            flat = lambda z, m=m: m(-z.conjugate())
+        found[ent.index].append((ent, flat))
+        name = dict(ent.groups).get(2, "").upper()
+        if ent.kind == "INSERT" and name in blocks:
+            base, at = complex(*blocks[name][0]), complex(one(ent.groups, 10), one(ent.groups, 20))
+            sx, sy = one(ent.groups, 41, 1.0), one(ent.groups, 42, 1.0)
+            turn = complex(math.cos(math.radians(one(ent.groups, 50))), math.sin(math.radians(one(ent.groups, 50))))
+            for row in range(int(one(ent.groups, 71, 1))):
+                for column in range(int(one(ent.groups, 70, 1))):
+                    def inner(z, step=complex(column * one(ent.groups, 44), row * one(ent.groups, 45)), base=base, at=at,
+                              sx=sx, sy=sy, turn=turn, flat=flat):
+                        z -= base
+                        return flat((complex(z.real * sx, z.imag * sy) + step) * turn + at)
+                    if name not in within and sx * sy != 0:
+                        placed(blocks[name][1], blocks, inner, found, (*within, name))
+
+
+def spline(groups, count):
+    """The curve by the textbook's recursion, and the parameters of count points spread evenly over each span."""
+    degree, knots = int(one(groups, 71)), values(groups, 40)
+    control = [complex(x, y) for x, y in zip(values(groups, 10), values(groups, 20))]
+    weights = values(groups, 41) or [1.0] * len(control)
+    ends = sorted(set(knots[degree:len(control) + 1]))
+
+    def at(u):
+        @functools.cache
+        def basis(i, k):
+            if k == 0:
+                return 1.0 if knots[i] <= u < knots[i + 1] or (u == ends[-1] and knots[i] < u <= knots[i + 1]) else 0.0
+            left, right = knots[i + k] - knots[i], knots[i + k + 1] - knots[i + 1]
+            rising = (u - knots[i]) / left * basis(i, k - 1) if left > 0 else 0.0
+            return rising + ((knots[i + k + 1] - u) / right * basis(i + 1, k - 1) if right > 0 else 0.0)
+
+        share = {i: basis(i, degree) * weights[i] for i in range(len(control)) if knots[i] <= u <= knots[i + degree + 1]}
+        return sum(n * control[i] for i, n in share.items()) / sum(share.values())
+
+    steps = (count - 1) // (len(ends) - 1)
+    assert steps * (len(ends) - 1) == count - 1, "points are not spread over the spans"
+    return at, [a + (b - a) * j / steps for a, b in zip(ends, ends[1:]) for j in range(steps)] + [ends[-1]]
+
+
+def circle(groups):
+    centre, radius = complex(one(groups, 10), one(groups, 20)), one(groups, 40)
+    return lambda u: centre + radius * complex(math.cos(u), math.sin(u))
+
+
+def ellipse(groups):
+    centre, axis = complex(one(groups, 10), one(groups, 20)), complex(one(groups, 11), one(groups, 21))
+    other = axis * 1j * one(groups, 40) * (1 if one(groups, 230, 1.0) > 0 else -1)
+    return lambda u: centre + math.cos(u) * axis + math.sin(u) * other
+
+
+def even(first, last, count):
+    return [first + (last - first) * i / (count - 1) for i in range(count)]
+
+
+class Drawings(unittest.TestCase):
+    def run_kxdraw(self, *arguments, status=0):
+        done = subprocess.run([KXDRAW, *arguments], capture_output=True, text=True, cwd=self.folder, timeout=120)
+        self.assertEqual(done.returncode, status, f"{arguments} {done.stderr}")
+        return done
+
+    def setUp(self):
+        temporary = tempfile.TemporaryDirectory()
+        self.addCleanup(temporary.cleanup)
+        self.folder = temporary.name
+
+    def draw(self, path, *arguments):
+        done = self.run_kxdraw(path, "-o", "picture.svg", "--points", "points.txt", *arguments)
+        with open(os.path.join(self.folder, "points.txt"), encoding="ascii") as file:
+            lines = file.read().splitlines()
+        paths, at, tolerance = [], 1, float(lines[0].split()[1])
+        while at < len(lines):
+            _, kind, index, _, copy, closed, count = lines[at].split()
+            points = [complex(*map(float, line.split())) for line in lines[at + 1:at + 1 + int(count)]]
+            paths.append((kind, int(index), int(copy), closed == "closed", points))
+            at += 1 + int(count)
+        return done.stdout, tolerance, paths
+
+    def on_curve(self, points, curve, parameters, m, tolerance, eps):
+        """Every point stands where it should, and halfway between two the curve is within the tolerance of the chord."""
+        self.assertEqual(len(points), len(parameters))
+        for p, u in zip(points, parameters):
+            self.assertLess(abs(p - m(curve(u))), eps)
+        for a, b, u, v in zip(points, points[1:], parameters, parameters[1:]):
+            chord, mid = b - a, m(curve((u + v) / 2)) - a
+            share = min(1, max(0, (mid / chord).real)) if chord else 0
+            self.assertLess(abs(mid - share * chord), tolerance + eps)
+
+    def on_polyline(self, corners, points, m, tolerance, eps):
+        """Corners (z, bulge): each is met in turn, and what lies between two is on their arc."""
+        self.assertLess(abs(points[0] - m(corners[0][0])), eps)
+        at = 0
+        for (a, bulge), (b, _) in zip(corners, corners[1:]):
+            last = at + 1
+            while abs(points[last] - m(b)) > eps:
+                last += 1
+            if bulge:
+                sweep, centre = 4 * math.atan(bulge), (a + b) / 2 + 1j * (b - a) * (1 - bulge * bulge) / (4 * bulge)
+                arc = lambda u, a=a, c=centre: c + (a - c) * complex(math.cos(u), math.sin(u))
+                self.on_curve(points[at:last + 1], arc, even(0, sweep, last - at + 1), m, tolerance, eps)
+            else:
+                self.assertEqual(last, at + 1)
+            at = last
+        self.assertEqual(at, len(points) - 1)
+
+    def check_path(self, ent, m, closed, points, tolerance):
+        g, size = ent.groups, max(abs(p) for p in points) + 1
+        corners = [complex(x, y) for x, y in zip(values(g, 10), values(g, 20))]
+        is_closed, eps, n = int(one(g, 70)) & 1, 1e-9 * size, len(points)
+        if ent.kind == "CIRCLE":
+            self.on_curve(points, circle(g), even(0, 2 * math.pi, n), m, tolerance, eps)
+        elif ent.kind == "ARC":
+            start, sweep = one(g, 50), (one(g, 51) - one(g, 50)) % 360 or 360
+            self.on_curve(points, circle(g), even(math.radians(start), math.radians(start + sweep), n), m, tolerance, eps)
+        elif ent.kind == "ELLIPSE":
+            u, v = one(g, 41), one(g, 42, 2 * math.pi)
+            backward = one(g, 230, 1.0) < 0
+            v += 2 * math.pi * (v <= u)
+            self.on_curve(points, ellipse(g), even(v, u, n) if backward else even(u, v, n), m, tolerance, 2e-7 * size)
+        elif ent.kind == "SPLINE":
+            self.on_curve(points, *spline(g, n), m, tolerance, eps)
+        elif ent.kind == "LINE":
+            ends = [complex(one(g, 10), one(g, 20)), complex(one(g, 11), one(g, 21))]
+            self.on_polyline([(z, 0) for z in ends], points, m, tolerance, eps)
+        elif ent.kind in ("LWPOLYLINE", "POLYLINE"):
+            vertices = ent.vertices
+            if ent.kind == "LWPOLYLINE":
+                vertices = []
+                for code, value in g:
+                    if code == 10:
+                        vertices.append([])
+                    if vertices and code in (10, 20, 42):
+                        vertices[-1].append((code, value))
+            turns = [(complex(one(v, 10), one(v, 20)), one(v, 42)) for v in vertices]
+            self.on_polyline(turns + turns[:is_closed], points, m, tolerance, eps)
+        elif ent.kind == "POINT":
+            self.assertLess(abs(points[0] - m(corners[0])), eps)
+        else:
+            self.assertIn(ent.kind, ("SOLID", "TRACE", "3DFACE"))
+            self.assertTrue(closed)
+        if closed:
+            self.assertEqual(points[0], points[-1])
+
+    def test_drawings(self):
+        for path in DRAWINGS:
+            for arguments in ((), ("-t", "0.001"), ("-t", "3")):
+                with self.subTest(os.path.basename(path), arguments=arguments):
+                    model, blocks, kinds = read_dxf(path)
+                    found = collections.defaultdict(list)
+                    placed(model, blocks, lambda z: z, found)
+                    table, tolerance, paths = self.draw(path, *arguments)
+                    for _, index, copy, closed, points in paths:
+                        ent, m = found[index][copy]
+                        self.check_path(ent, m, closed, points, tolerance)
+                    rows = [line.split() for line in table.split("\n\n")[1].splitlines()[1:]]
+                    self.assertEqual({row[0]: int(row[1]) for row in rows[:-1]}, dict(kinds))
+                    skipped = sum(int(line.split()[1]) for part in table.split("\n\n") if part.startswith("skipped,")
+                                  for line in part.splitlines()[1:])
+                    for row in rows:
+                        self.assertEqual(int(row[1]), int(row[2]) + int(row[3]))
+                    self.assertEqual(int(rows[-1][3]), skipped)
+                    self.assertEqual(sum(int(row[2]) for row in rows[:-1] if row[0] != "INSERT"), len({p[1] for p in paths}))
+                    if "closed_loop" in path:
+                        ends = [p for path_ in paths for p in (path_[4][0], path_[4][-1])]
+                        for p in ends:
+                            self.assertEqual(sum(abs(p - q) < 1e-6 for q in ends), 2)
+
+    def test_faults_are_named(self):
+        table = self.draw(os.path.join(SAMPLES, "faults.dxf"))[0]
+        for words in ("status 3: degree 16", "status 1: 3 control points", "status 4: 6 knots", "status 5", "status 2: 2 weights",
+                      "negative weight", "not in order", "fit points only", "contains itself", "no block of its name",
+                      "scale factor", "circlepnts_2d gives status 3", "tilted", "layer is off", "layer is frozen", "paper space",
+                      "invisible", "3  one of its numbers", "than it announces", "polyface", "width"):
+            self.assertIn(words, table)
+        self.assertIn("skipped", self.run_kxdraw(os.path.join(SAMPLES, "faults.dxf"), "-q").stderr)
+
+    def test_small_and_far(self):
+        for scale, x in ((1e-9, 0.0), (1e9, 0.0), (1.0, 5e6)):
+            with self.subTest(scale=scale, x=x):
+                shapes = [("CIRCLE", 10, x, 20, 0, 40, scale), ("ARC", 10, x, 20, 0, 40, 2 * scale, 50, 350, 51, 10)]
+                shapes.append(("SPLINE", 71, 2, 72, 6, 73, 3, 40, 0, 40, 0, 40, 0, 40, 1e-8, 40, 1e-8, 40, 1e-8, 10, x, 20, 0,
+                               10, x + scale, 20, 3 * scale, 10, x + 2 * scale, 20, 0))
+                pairs = [(0, "SECTION"), (2, "ENTITIES")]
+                for kind, *groups in shapes:
+                    pairs += [(0, kind), (8, "0"), *zip(groups[::2], groups[1::2])]
+                path = os.path.join(self.folder, "made.dxf")
+                with open(path, "w", encoding="ascii") as file:
+                    file.writelines(f"{code}\n{value}\n" for code, value in pairs + [(0, "ENDSEC"), (0, "EOF")])
+                _, tolerance, paths = self.draw(path)
+                self.assertAlmostEqual(tolerance / scale, 5e-4, 6)
+                for _, index, _, closed, points in paths:
+                    self.check_path(read_dxf(path)[0][index], lambda z: z, closed, points, tolerance)
+                    self.assertGreater(len(points), 5)
+
+    def test_pictures_and_arguments(self):
+        plate = os.path.join(SAMPLES, "plate.dxf")
+        for name, start in (("a.png", b"\x89PNG"), ("a.PDF", b"%PDF"), ("a.svg", b"<?xml")):
+            self.run_kxdraw(plate, "-o", name, "-s", "300x200", "-q")
+            with open(os.path.join(self.folder, name), "rb") as file:
+                self.assertEqual(file.read(len(start)), start)
+        for arguments in ((), ("-x", plate), (plate, "-t", "0"), (plate, "-t", "nan"), (plate, "-s", "0x5"), (plate, "-o", "a.txt"),
+                          (plate, "-o"), (plate, plate)):
+            self.assertIn("usage", self.run_kxdraw(*arguments, status=2).stderr)
+        self.assertEqual(len(self.run_kxdraw(plate, "-o", "no/where.svg", status=1).stderr.splitlines()), 1)
+
+    def test_bad_files(self):
+        with open(os.path.join(SAMPLES, "plate.dxf"), "rb") as file:
+            whole = file.read()
+        bad = {f"cut{i}": whole[:len(whole) * i // 9] for i in range(1, 9)}
+        bad |= {"empty": b"", "binary": b"AutoCAD Binary DXF\r\n\x1a\0" + whole, "picture": b"\x89PNG\r\n\x1a\n\0\0\0\rIHDR",
+                "text": b"Dear reader,\nthis is no drawing.\n", "noend": whole.rstrip()[:-1], "code": whole.replace(b" 10\n", b" 1o\n", 1)}
+        for name, content in bad.items():
+            with open(os.path.join(self.folder, name + ".dxf"), "wb") as file:
+                file.write(content)
+        os.mkdir(os.path.join(self.folder, "directory.dxf"))
+        for name in (*bad, "directory", "missing"):
+            with self.subTest(name):
+                done = self.run_kxdraw(name + ".dxf", status=1)
+                self.assertEqual((done.stdout, len(done.stderr.splitlines())), ("", 1))
+                self.assertFalse(os.path.exists(os.path.join(self.folder, name + ".svg")))
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
