@@ -10,6 +10,7 @@
 #include "records/vector.hpp"
 #include "runtime/memory.hpp"
 #include "runtime/tolerance.hpp"
+#include "status.hpp"
 
 namespace kx {
 
@@ -17,9 +18,6 @@ inline constexpr double full_turn = 360.0;
 inline constexpr double widest_chord = 120.0;  // degrees: a circle stays a polygon however coarse the tolerance
 inline constexpr std::int32_t most_chords = 1000000;
 inline constexpr double default_flatness = 1e-3;  // of the radius, for a tolerance that is none
-
-// The statuses of this room's functions.
-inline constexpr std::int32_t done = 0, wrong_argument = 1, coincident = 2, wrong_value = 3, no_memory = 80;
 
 // A sweep of a turn or more, or as good as one, is exactly one turn.
 inline double whole_turn_at_most(double sweep_deg) {
@@ -74,7 +72,7 @@ class point_run {
   // Continues the numbers of the list, wrapping around after the largest one.
   explicit point_run(list_hdr &target)
       : target_(target),
-        next_(target.tail ? static_cast<std::uint32_t>(read_seqnr(target.tail->data, KX_POLY_2D)) + 1 : 0) {}
+        next_(target.head ? static_cast<std::uint32_t>(read_seqnr(target.tail->data, KX_POLY_2D)) + 1 : 0) {}
   ~point_run() { release_items(fresh_); }
   point_run(const point_run &) = delete;
   point_run &operator=(const point_run &) = delete;
@@ -96,7 +94,7 @@ class point_run {
   }
 
   std::int32_t hand_over() {
-    if (target_.tail) {
+    if (target_.head) {
       target_.tail->next = fresh_.head;
       fresh_.head->prev = target_.tail;
       fresh_.head = target_.head;

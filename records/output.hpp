@@ -5,7 +5,7 @@ namespace kx {
 
 // Writes an output that the caller may leave out by passing null.
 template <class T>
-void put(T *out, const T &value) {
+void put(T *out, T value) {
   if (out) *out = value;
 }
 

@@ -7,9 +7,12 @@
 //     kx_archtangent kx_archcotangent kx_archsecant kx_archcosecant kx_parmtanhangle
 //     kx_angletwolines kx_angle_lines_deg kx_angle_lines_rad kx_arcangle kx_angleparmtan kx_pntangledist
 //     kx_pntangledist_3d kx_vectordirection kx_angletwoplanes kx_anglelineplane kx_anglelinesspace
+//     kx_vectoradd kx_vector_add kx_vector_sub kx_vector_neg kx_vectormult kx_unitvector kx_vector_normalize
+//     kx_normalvector3d kx_projectvector kx_projectednormal kx_line_to_vector_3d kx_normal_to_plane
+//     kx_line_to_vector_2d kx_unitvector2d kx_normalvector2d
 //     kx_arc_pntcount kx_arcpnts_2d kx_circlepnts_2d kx_arc_bulge_2d kx_bulgepnts_2d kx_ellipsepnts_2d
 //     kx_elliptic_arc_2d kx_rotationmatrix2d kx_rotatepnt2d
-//   message box: kx_memerr kx_display_msg
+//   message box: kx_memerr kx_display_msg kx_normalizeplane kx_parallelplanes kx_normallineeqspace
 //   file: kx_get_message kx_open_file kx_close_file kx_write_file kx_read_file kx_flush_file kx_seek_file
 #include <cinttypes>
 #include <cmath>
@@ -113,6 +116,7 @@ void hash_record(const T *record) {
 }
 void hash(const pnt_2d &point) { hash_record(&point); }
 void hash(const pnt_3d &point) { hash_record(&point); }
+void hash(list_hdr *made);  // and frees it
 
 // ---- functions of numbers and records ----
 
@@ -253,7 +257,7 @@ void hash_list(const list_hdr *list) {
 // A header whose items may have gone elsewhere.
 void drop(list_hdr *list) {
   if (list->head)
-    kx_purge_polygon(list);
+    ll_purge_all_items(list);
   else
     ll_init_list_hdr(list), ll_purge_list(list);
 }
@@ -389,6 +393,20 @@ list_hdr *numbers(std::int32_t n, bool ascending) {
   return list;
 }
 
+void hash(list_hdr *made) {
+  hash_list(made);
+  if (made) drop(made);
+}
+
+template <>
+struct argument<list_hdr *> {
+  list_hdr *value = below(4) ? points(3 + below(9), tags[below(4)]) : ll_create_list();
+  operator list_hdr *() const { return value; }
+  void done() const { hash(value); }
+};
+template <>
+struct argument<const list_hdr *> : argument<list_hdr *> {};
+
 void point_lists() {
   for (int round = 0; round < 200; ++round) {
     wild = round % 4 == 3;
@@ -426,17 +444,37 @@ void geometry() {
           kx_parallellines, kx_perpendicular, kx_linepntperpend, kx_linepntparallel, kx_linebisector,
           kx_bisector_two_lines, kx_intersect, kx_intersect_ile, kx_intersect_ple, kx_intersect_pil, kx_intersect_ls,
           kx_intersect_ils, kx_intersect_pls, kx_intersectls, kx_intersectf, kx_axisintersect, kx_axisintersect_ls,
-          kx_linerelationship, kx_line_to_vector_2d, kx_vector_to_line_2d, kx_point_on_vector, kx_unitvector2d,
-          kx_normalvector2d, kx_planeequation, kx_planeeq_3p, kx_planeeq_2pple, kx_planeeq_pnl, kx_planeeq_2pls,
-          kx_planeeq_pnls, kx_normalizeplane, kx_parallelplanes, kx_normal_to_plane, kx_plane_pnt, kx_distpntplane,
+          kx_linerelationship, kx_vector_to_line_2d, kx_point_on_vector, kx_planeequation, kx_planeeq_3p,
+          kx_planeeq_2pple, kx_planeeq_pnl, kx_planeeq_2pls, kx_planeeq_pnls, kx_plane_pnt, kx_distpntplane,
           kx_inttwoplanes, kx_intthreeplanes, kx_intlineplane, kx_intlineplane_ls, kx_intlineplane_ple, kx_lineeqspace,
-          kx_normallineeqspace, kx_mplinespace, kx_distancespace, kx_distpntlinespace, kx_distpntlnsp_ls,
-          kx_distpntlnsp_ple, kx_distlinespace, kx_intlinespace, kx_intlinespace_ls, kx_intlinespace_ple,
-          kx_crossproduct, kx_dotproduct, kx_vector_dot, kx_vectorlength, kx_vector_len, kx_vector_sqlen, kx_vectoradd,
-          kx_vector_add, kx_vector_sub, kx_vector_neg, kx_vectormult, kx_unitvector, kx_vector_normalize,
-          kx_normalvector3d, kx_projectvector, kx_projectednormal, kx_line_to_vector_3d, kx_vector_pnt,
-          kx_get_point_on_line, kx_crossproduct_3d, kx_vectorlength_3d, kx_vectormult_3d, kx_unitvector_3d,
-          kx_normalvector_3d, kx_projectvector_3d, kx_projectednormal_3d);
+          kx_mplinespace, kx_distancespace, kx_distpntlinespace, kx_distpntlnsp_ls, kx_distpntlnsp_ple,
+          kx_distlinespace, kx_intlinespace, kx_intlinespace_ls, kx_intlinespace_ple, kx_crossproduct, kx_dotproduct,
+          kx_vector_dot, kx_vectorlength, kx_vector_len, kx_vector_sqlen, kx_vector_pnt, kx_get_point_on_line,
+          kx_crossproduct_3d, kx_vectorlength_3d, kx_vectormult_3d, kx_unitvector_3d, kx_normalvector_3d,
+          kx_projectvector_3d, kx_projectednormal_3d);
+}
+
+void polygon() {
+  batches(kx_inpolygonl, kx_inonpolygonl, kx_onpolygonl, kx_pnts_inpolyl, kx_pnts_inonpolyl, kx_pnts_onpolyl,
+          kx_pnts_in_line, kx_incircle, kx_inrectangle, kx_in_rectangle, kx_rect_equal_2d, kx_rect_union_2d,
+          kx_rect_intersect_2d, kx_polygontypel, kx_get_poly2d_dir, kx_poly_xy_maxmin, kx_orderpolygonl,
+          kx_reverse_xy_poly, kx_match_point, kx_morph_polyline, kx_self_intersecting_polygon, kx_check_poly,
+          kx_same_poly, kx_intersect_poly, kx_inside_poly, kx_outside_poly);
+  for (int round = 0; round < 200; ++round) {
+    wild = round % 4 == 3;
+    pnt_2d corners[13], out[4] = {}, from;
+    for (pnt_2d &corner : corners) filled(&corner);
+    const std::int32_t count = 3 + below(9);
+    std::int32_t number[2] = {};
+    hash(kx_inpolygon(filled(&from), corners, &count, number));
+    hash(kx_polygontype(corners, count, number + 1));
+    hash(kx_extremepnts(corners, count, out, out + 1, out + 2, out + 3));
+    hash(kx_find_smallest_xy(corners, count));
+    hash(kx_orderpolygon(corners, count, below(3) - 1));
+    for (const std::int32_t value : number) hash(value);
+    for (const pnt_2d &point : out) hash(point);
+    for (const pnt_2d &corner : corners) hash(corner);
+  }
 }
 
 void transform() {
@@ -555,6 +593,7 @@ int main() {
                                                              {"records", records},
                                                              {"point lists", point_lists},
                                                              {"geometry", geometry},
+                                                             {"polygon", polygon},
                                                              {"transform", transform},
                                                              {"uniform curves", uniform_curves},
                                                              {"non-uniform curves", nonuniform_curves}};
