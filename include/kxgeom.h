@@ -7,6 +7,7 @@
 #include "kxgeom/curves.h"
 #include "kxgeom/geometry.h"
 #include "kxgeom/list.h"
+#include "kxgeom/polygon.h"
 #include "kxgeom/records.h"
 #include "kxgeom/runtime.h"
 #include "kxgeom/transform.h"

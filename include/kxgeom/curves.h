@@ -1,8 +1,8 @@
 /* Free-form curves: one record for all of them, definers that fill it from lists, makers that sample it into lists.
  *
- * A definer takes over the items of the lists it is given: afterwards they belong to the curve, the caller's header is an
- * empty list again and stays the caller's. Items that the curve's own list held before are freed. A caller's header may be
- * one of the curve's own; given twice in one call, its items go to the parameter that comes first.
+ * A definer takes over the items of the lists it is given: afterwards they belong to the curve, the caller's header is
+ * an empty list again and stays the caller's. Items that the curve's own list held before are freed. A caller's header
+ * may be one of the curve's own; given twice in one call, its items go to the parameter that comes first.
  *
  * curve_type: 83, 84 uniform cubic B-spline in the plane, in space; 85, 86 uniform cubic Bezier; 87, 88 uniform
  * Catmull-Rom; 91, 92 uniform beta-spline; 93, 98 non-uniform B-spline; 94, 95 NURBS; 96, 97 rational Bezier; 0 none.
@@ -21,24 +21,25 @@ extern "C" {
 
 /**
  * Creates a curve as kx_init_curve leaves it.
- * @return the curve, owned by the caller and freed by kx_purge_curve; null after the memory message "kx_create_curve" or
- *   that of a list
+ * @return the curve, owned by the caller and freed by kx_purge_curve; null after the memory message "kx_create_curve"
+ *   or that of a list
  */
 KX_API curve *KX_CALL kx_create_curve(void);
 
 /**
- * Makes a raw record an empty curve: every number 0, the basis the identity, five empty lists. Lists that the record had
- * are not freed.
+ * Makes a raw record an empty curve: every number 0, the basis the identity, five empty lists. Lists that the record
+ * had are not freed.
  * @param[out] c  the record; when a list cannot be created all five are null; null does nothing
  */
 KX_API void KX_CALL kx_init_curve(curve *c);
 
 /**
- * Frees a curve with everything that hangs from it. What hangs from statistics is known for control points of datatype 62
- * and 63 only: for any other datatype both point lists are freed and the rest is left, with no control points; a second
- * call then frees it. A curve without control points is freed whatever it holds, and lists that are missing are no error.
+ * Frees a curve with everything that hangs from it. Control points of a datatype other than 62 and 63 stop it once both
+ * point lists are freed: the record stays, without them, and a second call frees the rest. A curve without control
+ * points is freed whatever it holds, and lists that are missing are no error.
  * @param[in] c  the curve; gone when the result is 0
- * @return 0 freed; 9 null, control points of a datatype other than 62 and 63, or a point list that kx_purge_polygon refuses
+ * @return 0 freed; 9 null, control points of a datatype other than 62 and 63, or a point list that kx_purge_polygon
+ *   refuses
  */
 KX_API int32_t KX_CALL kx_purge_curve(curve *c);
 
@@ -85,8 +86,8 @@ KX_API void KX_CALL kx_purge_curv(curv *c);
 KX_API curve *KX_CALL kx_def_ucurve(list_hdr *ctrl, int32_t curve_type);
 
 /**
- * Makes a uniform cubic B-spline of plane control points (datatype 50 or 62). Control points in space (51 or 63) are taken
- * over and freed, and no curve comes of them: kx_def_ubspl_curve3d is the definer for those.
+ * Makes a uniform cubic B-spline of plane control points (datatype 50 or 62). Control points in space (51 or 63) are
+ * taken over and freed, and no curve comes of them: kx_def_ubspl_curve3d is the definer for those.
  * @param[in,out] ctrl  control points
  * @return the curve, owned by the caller and freed by kx_purge_curve; null for a null list, any other datatype or an
  *   empty list, the list untouched; null after a memory message, the list untouched
@@ -135,8 +136,8 @@ KX_API int32_t KX_CALL kx_def_ucatrom_curve2d(list_hdr *ctrl, curve *c);
 /**
  * Makes a new uniform cubic B-spline in space (84).
  * @param[in,out] ctrl  control points; an empty list afterwards, its header all 0
- * @return the curve, owned by the caller and freed by kx_purge_curve; null for null and after a memory message, the list
- *   untouched
+ * @return the curve, owned by the caller and freed by kx_purge_curve; null for null and after a memory message, the
+ *   list untouched
  */
 KX_API curve *KX_CALL kx_def_ubspl_curve3d(list_hdr *ctrl);
 
@@ -166,20 +167,20 @@ KX_API int32_t KX_CALL kx_mk_ucurve(curve *c, double step);
 
 /**
  * Samples a uniform plane curve at t = 0, step, 2 step ... to 1 in each segment of four consecutive control points and
- * appends to curve_pnts and curve_stats, lists that are created when missing. The parameter is accumulated and may pass 1
- * by 2e-7. A joint is sampled once: t = 0 of every segment but the first is left out, yet numbered, so that the numbers
- * of the samples jump by 2 there. Earlier samples stay.
+ * appends to curve_pnts and curve_stats, lists that are created when missing. The parameter is accumulated and may pass
+ * 1 by 2e-7. A joint is sampled once: t = 0 of every segment but the first is left out, yet numbered, so that the
+ * numbers of the samples jump by 2 there. Earlier samples stay.
  *
  * A Bezier curve (85) of n control points, n cut to a multiple of 4, has n - 3 segments as the other kinds have; each
  * reads the next four control points, and reading goes on at the head when it passes the tail.
  *
  * Coordinates are read where a poly_2d has them. A record that is too short for that, such as a pnt_2d, is read as far
  * as it goes and continued with zero bytes: only poly_2d lists give meaningful curves.
- * @param[in,out] c  the curve; step is noted in it. The control points' cursor ends behind the last one read, at the head
- *   after the tail; it stays where it is unless the result is 0
+ * @param[in,out] c  the curve; step is noted in it. The control points' cursor ends behind the last one read, at the
+ *   head after the tail; it stays where it is unless the result is 0
  * @param[in] step  parameter step; one that is not finite or not above 1e-7 (a negative one too) counts as 0.1
- * @return 0 done; 1 null curve; 2 fewer than 4 control points, or one without a record; 80 no memory, after its message;
- *   samples that were appended before stay
+ * @return 0 done; 1 null curve; 2 fewer than 4 control points, or one without a record; 80 no memory, after its
+ *   message; samples that were appended before stay
  */
 KX_API int32_t KX_CALL kx_mk_ucurve2d(curve *c, double step);
 
@@ -210,8 +211,8 @@ KX_API int32_t KX_CALL kx_eval_t_on_ucurve2d(const curve *c, double t, poly_2d *
 /* ---- knot vectors ---- */
 
 /**
- * Finds the knot span s of a parameter: knots[s] <= t < knots[s+1], or with side -1 knots[s] < t <= knots[s+1]. At or below
- * the first knot the answer is degree - 1, at or above the last one last - degree, whatever the knots are.
+ * Finds the knot span s of a parameter: knots[s] <= t < knots[s+1], or with side -1 knots[s] < t <= knots[s+1]. At or
+ * below the first knot the answer is degree - 1, at or above the last one last - degree, whatever the knots are.
  * @param[in] knots  knot vector, not decreasing
  * @param[in] last  index of its last knot
  * @param[in] degree  degree of the curve
@@ -222,8 +223,8 @@ KX_API int32_t KX_CALL kx_eval_t_on_ucurve2d(const curve *c, double t, poly_2d *
 KX_API int32_t KX_CALL kx_findknotspan(const double *knots, int32_t last, int32_t degree, double t, int32_t side);
 
 /**
- * Computes the degree + 1 B-spline basis functions that are not zero on a knot span, and their derivatives. The values sum
- * to 1, those of each derivative to 0. A span of no length has no functions: all values are 0.
+ * Computes the degree + 1 B-spline basis functions that are not zero on a knot span, and their derivatives. The values
+ * sum to 1, those of each derivative to 0. A span of no length has no functions: all values are 0.
  * @param[in] knots  knot vector, not decreasing; read from knots[span+1-degree] to knots[span+degree]
  * @param[in] span  the knot span of t
  * @param[in] degree  0 to 15
@@ -238,8 +239,8 @@ KX_API int32_t KX_CALL kx_basisfunctions(const double *knots, int32_t span, int3
 /* ---- de boor ---- */
 
 /**
- * Evaluates a non-uniform plane B-spline on one knot span by de Boor's scheme. Knot differences are not tested: a repeated
- * knot among those used may give infinities or no numbers, as a t that is no number does.
+ * Evaluates a non-uniform plane B-spline on one knot span by de Boor's scheme. Knot differences are not tested: a
+ * repeated knot among those used may give infinities or no numbers, as a t that is no number does.
  * @param[in] t  parameter, not below -1e-7
  * @param[in] degree  0 to 15
  * @param[in] ctrl  the span's degree + 1 control points
@@ -269,8 +270,8 @@ KX_API int32_t KX_CALL kx_deboor_3d(double t, int32_t degree, poly_3d *const *ct
  * @param[in] weights  their weights
  * @param[in] knots  2 * degree knots, of which knots[degree-1] and knots[degree] bound the span
  * @param[out] out  the point; unwritten on failure
- * @return 0; 2 t below -1e-7 or degree outside 0 to 15; 3 the point's weight is within 1e-7 of 0 or not finite; 40 a null
- *   pointer or control point
+ * @return 0; 2 t below -1e-7 or degree outside 0 to 15; 3 the point's weight is within 1e-7 of 0 or not finite; 40 a
+ *   null pointer or control point
  */
 KX_API int32_t KX_CALL kx_rat_deboor_2d(double t, int32_t degree, poly_2d *const *ctrl, const double *weights,
                                         const double *knots, pnt_2d *out);
@@ -291,10 +292,10 @@ KX_API int32_t KX_CALL kx_rat_deboor_3d(double t, int32_t degree, poly_3d *const
 /* ---- nurbs definers ---- */
 
 /**
- * Makes a curve a non-uniform B-spline in the plane (93). The type is written first, also when a check then fails. A null
- * list counts as an empty one.
- * @param[in,out] ctrl,knots  control points and knots, more knots than control points + degree - 2; on success empty lists
- *   whose counts are left as they were; untouched on failure
+ * Makes a curve a non-uniform B-spline in the plane (93). The type is written first, also when a check then fails. A
+ * null list counts as an empty one.
+ * @param[in,out] ctrl,knots  control points and knots, more knots than control points + degree - 2; on success empty
+ *   lists whose counts are left as they were; untouched on failure
  * @param[in] degree  1 to 15
  * @param[in] option  parameter steps per knot span, stored in span_steps
  * @param[in,out] c  the curve
@@ -304,13 +305,13 @@ KX_API int32_t KX_CALL kx_rat_deboor_3d(double t, int32_t degree, poly_3d *const
 KX_API int32_t KX_CALL kx_def_nubspl_curve2d(list_hdr *ctrl, list_hdr *knots, int32_t degree, int32_t option, curve *c);
 
 /**
- * Makes a new non-uniform B-spline in space (98). Unlike the plane definer it reports what is wrong. A null list counts as
- * an empty one.
+ * Makes a new non-uniform B-spline in space (98). Unlike the plane definer it reports what is wrong. A null list counts
+ * as an empty one.
  * @param[in,out] ctrl,knots  as kx_def_nubspl_curve2d
  * @param[in] degree  1 to 15
  * @param[in] option  parameter steps per knot span, stored in span_steps
- * @return the curve, owned by the caller and freed by kx_purge_curve; null after the message "BADKNOTSEQ" (0) for too few
- *   knots, "BADDEG" (0) for a degree outside 1 to 15, or a memory message
+ * @return the curve, owned by the caller and freed by kx_purge_curve; null after the message "BADKNOTSEQ" (0) for too
+ *   few knots, "BADDEG" (0) for a degree outside 1 to 15, or a memory message
  */
 KX_API curve *KX_CALL kx_def_nubspl_curve3d(list_hdr *ctrl, list_hdr *knots, int32_t degree, int32_t option);
 
@@ -319,8 +320,8 @@ KX_API curve *KX_CALL kx_def_nubspl_curve3d(list_hdr *ctrl, list_hdr *knots, int
  * @param[in,out] ctrl,knots,weights  as kx_def_nurb_curve2d
  * @param[in] degree  1 to 15
  * @param[in] option  parameter steps per knot span, stored in span_steps; 0 counts as 1
- * @return the curve, owned by the caller and freed by kx_purge_curve; null, the lists untouched, for any other datatype,
- *   for what kx_def_nurb_curve2d refuses, and after a memory message
+ * @return the curve, owned by the caller and freed by kx_purge_curve; null, the lists untouched, for any other
+ *   datatype, for what kx_def_nurb_curve2d refuses, and after a memory message
  */
 KX_API curve *KX_CALL kx_def_nurb_curve(list_hdr *ctrl, list_hdr *knots, list_hdr *weights, int32_t degree,
                                         int32_t option);
@@ -328,13 +329,13 @@ KX_API curve *KX_CALL kx_def_nurb_curve(list_hdr *ctrl, list_hdr *knots, list_hd
 /**
  * Makes a curve a NURBS curve in the plane (94). The type is written first, also when a check then fails. The number of
  * knots is left to the maker. A null list counts as an empty one.
- * @param[in,out] ctrl,knots,weights  degree + 1 or more control points, knots, and a weight or more per control point; on
- *   success empty lists, their headers all 0; untouched on failure
+ * @param[in,out] ctrl,knots,weights  degree + 1 or more control points, knots, and a weight or more per control point;
+ *   on success empty lists, their headers all 0; untouched on failure
  * @param[in] degree  1 to 15
  * @param[in] option  parameter steps per knot span, stored in span_steps; 0 counts as 1
  * @param[in,out] c  the curve
- * @return 0; 1 fewer than degree + 1 control points; 2 fewer weights than control points; 3 degree outside 1 to 15; 4 null
- *   curve; 80 when the curve lacks a list and none can be created
+ * @return 0; 1 fewer than degree + 1 control points; 2 fewer weights than control points; 3 degree outside 1 to 15; 4
+ *   null curve; 80 when the curve lacks a list and none can be created
  */
 KX_API int32_t KX_CALL kx_def_nurb_curve2d(list_hdr *ctrl, list_hdr *knots, list_hdr *weights, int32_t degree,
                                            int32_t option, curve *c);
@@ -361,22 +362,23 @@ KX_API int32_t KX_CALL kx_def_nurb_curve3d(list_hdr *ctrl, list_hdr *knots, list
 KX_API int32_t KX_CALL kx_mk_nurb_curve(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
 
 /**
- * Samples a plane NURBS curve of degree p at equal steps in each knot span, both ends of a span included, and appends to
- * curve_pnts (62) and curve_stats (60, only the parameter filled), lists that are created when missing. Spans not longer
- * than 1e-7 are left out. The knot vector is the textbook's without its first and last knot: span s of the n_spans lies
- * between knots p-1+s and p+s and belongs to the control points s to p+s. The points may be of any of the four kinds.
- * @param[in,out] c  the curve. On success and on 5 and 80 the cursors of the control points and weights are at their heads
- *   and that of the knots behind the last one read; reading goes on at the head when it passes the tail
- * @param[in] skip  with skip_enable 1 or more, the number of knots passed over, counted from the head; the control points
- *   and weights start at their heads all the same
+ * Samples a plane NURBS curve of degree p at equal steps in each knot span, both ends of a span included, and appends
+ * to curve_pnts (62) and curve_stats (60, only the parameter filled), lists that are created when missing. Spans not
+ * longer than 1e-7 are left out. The knot vector is the textbook's without its first and last knot: span s of the
+ * n_spans lies between knots p-1+s and p+s and belongs to the control points s to p+s. The points may be of any of the
+ * four kinds.
+ * @param[in,out] c  the curve. On success the cursors of the control points and weights are at their heads and that of
+ *   the knots behind the last one read; the reading of knots goes on at the head when it passes the tail
+ * @param[in] skip  with skip_enable 1 or more, the number of knots passed over, counted from the head; the control
+ *   points and weights start at their heads all the same
  * @param[in] skip_enable  below 1 for no skipping, as a skip below 1
  * @param[in] n_spans  number of spans; 0 or fewer give no samples
  * @param[in] steps  parameter steps per span, noted in span_steps; 0 for those noted there. 0 in the end counts as 1, a
  *   negative number gives no samples
  * @return 0 done; 1 null curve, missing list or no control points; 2 degree outside 1 to 15 or too few control points;
- *   3 not of type 94; 4 not more than n_spans + 2p - 2 knots; 5 no knots, a parameter below -1e-7, a weight within 1e-7 of
- *   0 or not finite, or a point, weight or knot that is missing; 6 no weights; 80 no memory, after its message (that of the
- *   knots is "mk_nurb_curve2d - 2"). Samples that were appended before stay
+ *   3 not of type 94; 4 not more than n_spans + 2p - 2 knots; 5 no knots, a parameter below -1e-7, a weight within 1e-7
+ *   of 0 or not finite, or a point, weight or knot that is missing; 6 no weights; 80 no memory, after its message (that
+ *   of the knots is "mk_nurb_curve2d - 2"). Samples that were appended before stay
  */
 KX_API int32_t KX_CALL kx_mk_nurb_curve2d(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
 
