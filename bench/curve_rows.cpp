@@ -80,8 +80,8 @@ void add_floors(const std::string &family, std::size_t n) {
     free_blocks(*stats);
   };
   const auto items = static_cast<std::int64_t>(n);
-  add({.name = family + "floor:blocks", .items = items, .pass = make, .after = free});
-  add({.name = family + "floor:blocks_and_free", .items = items, .pass = [=] {
+  add({.name = family + "floor:make", .items = items, .pass = make, .after = free});
+  add({.name = family + "floor:make_and_purge", .items = items, .pass = [=] {
          make();
          free();
        }});

@@ -64,6 +64,14 @@ std::string check_queue(int n) {
   return bench::unless(right, "the queue's tail");
 }
 
+// What a walk through functions cannot do without: two calls an item.
+void *data_of_current(const list_hdr *list) { return list->current->data; }
+bool to_next(list_hdr *list) {
+  list_item *next = list->current->next;
+  list->current = next ? next : list->head;
+  return next != nullptr;
+}
+
 template <class Build>
 void add_build(const std::string &name, int n, const std::function<std::string()> &check, Build once) {
   bench::add({.name = name, .items = million, .check = check, .pass = [n, once] {
@@ -73,7 +81,7 @@ void add_build(const std::string &name, int n, const std::function<std::string()
 
 void add_building(const std::string &size, int n) {
   const std::string family = "list_build/" + size + "/";
-  add_build(family + "floor:two_blocks", n, {}, [n] {
+  add_build(family + "floor:build_and_purge", n, {}, [n] {
     list_hdr list{};
     build_blocks(list, n);
     bench::free_blocks(list);
@@ -102,6 +110,11 @@ void add_building(const std::string &size, int n) {
   add_build(
       family + "kx:build_and_purge", n, [n] { return check_build(n); }, [n] { ll_purge_all_items(build(n)); });
   if (n == million) {
+    const auto blocks = std::make_shared<list_hdr>();
+    bench::add({.name = family + "floor:build",
+                .items = n,
+                .pass = [n, blocks] { build_blocks(*blocks, n); },
+                .after = [blocks] { bench::free_blocks(*blocks); }});
     const auto list = std::make_shared<list_hdr *>(nullptr);
     bench::add({.name = family + "kx:build",
                 .items = n,
@@ -140,6 +153,16 @@ void add_walking(const std::string &size, int n) {
   add_walk(family + "floor:follow_links", n, [list] {
     double total = 0.0;
     for (const list_item *item = list->head; item; item = item->next) total += sum(*static_cast<pnt_3d *>(item->data));
+    return total;
+  });
+  add_walk(family + "floor:two_calls", n, [list] {
+    void *(*volatile data)(const list_hdr *) = data_of_current;  // volatile, so that they stay calls
+    bool (*volatile next)(list_hdr *) = to_next;
+    double total = 0.0;
+    list->current = list->head;
+    do {
+      total += sum(*static_cast<pnt_3d *>(data(list)));
+    } while (next(list));
     return total;
   });
   add_walk(family + "peer:std_list", n, [values] {

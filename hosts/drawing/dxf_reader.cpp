@@ -84,13 +84,14 @@ class reader : public DL_CreationAdapter {
       path->vertices.push_back({data.x, data.y, data.bulge});
   }
 
-  void addTrace(const DL_TraceData &data) override { deliver(corners(data), true); }
-  void addSolid(const DL_SolidData &data) override { deliver(corners(data), true); }
+  void addTrace(const DL_TraceData &data) override { deliver(solid(data), true); }
+  void addSolid(const DL_SolidData &data) override { deliver(solid(data), true); }
 
   void add3dFace(const DL_3dFaceData &data) override {
-    path_shape path{.closed = true, .hidden_edges = closing_ ? closing_->number(70) : 0};
-    for (int i = 0; i < 4; ++i) path.vertices.push_back({data.x[i], data.y[i]});
-    deliver(path, false);
+    deliver(path_shape{.vertices = corners(data, {0, 1, 2, 3}),
+                       .closed = true,
+                       .hidden_edges = closing_ ? closing_->number(70) & 15 : 0},
+            false);
   }
 
   void addSpline(const DL_SplineData &data) override {
@@ -122,10 +123,17 @@ class reader : public DL_CreationAdapter {
   }
 
  private:
-  static path_shape corners(const DL_TraceData &data) {
-    path_shape path{.closed = true, .filled = true};
-    for (int i : {0, 1, 3, 2}) path.vertices.push_back({data.x[i], data.y[i]});  // the file goes crosswise
-    return path;
+  // A fourth corner that the file leaves out is the third; dxflib has the origin there.
+  std::vector<vertex> corners(const DL_TraceData &data, const std::array<int, 4> &order) const {
+    const bool three = closing_ && closing_->count(13) == 0;
+    std::vector<vertex> result;
+    for (const int i : order) result.push_back({data.x[three && i == 3 ? 2 : i], data.y[three && i == 3 ? 2 : i]});
+    return result;
+  }
+
+  // The file goes crosswise from the second corner to the third.
+  path_shape solid(const DL_TraceData &data) const {
+    return {.vertices = corners(data, {0, 1, 3, 2}), .closed = true, .filled = true};
   }
 
   // Shows dxflib one pair. A value longer than its line buffer would stop its stream; none that is drawn is so long.

@@ -135,8 +135,8 @@ void run(const options &opts) {
   const drawing source = read_drawing(opts.drawing, [&](double done) { line.show("reading", done); });
   const built_drawing built =
       build_geometry(source, opts.tolerance, time, [&](double done) { line.show("building", done); });
-  line.show("painting", 0);
-  const picture_size size = write_picture(built, opts.picture, opts.size, time);
+  const picture_size size =
+      write_picture(built, opts.picture, opts.size, time, [&](double done) { line.show("painting", done); });
   if (!opts.points.empty()) write_points(opts.points, built);
   line.clear();
   const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - start;

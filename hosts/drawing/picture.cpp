@@ -120,7 +120,8 @@ bool is_picture_name(const std::string &path) {
   return ends_with(path, ".svg") || ends_with(path, ".png") || ends_with(path, ".pdf");
 }
 
-picture_size write_picture(const built_drawing &built, const std::string &path, picture_size size, library_time &time) {
+picture_size write_picture(const built_drawing &built, const std::string &path, picture_size size, library_time &time,
+                           const std::function<void(double)> &progress) {
   const rect_2d window = window_of(built);
   if (size.width == 0) size = fitting_size(window);
   const surface target = open_surface(path, size);
@@ -129,7 +130,10 @@ picture_size write_picture(const built_drawing &built, const std::string &path, 
   cairo_paint(page.get());
 
   painter brush(page.get(), window, viewport_of(window, size), std::max(size.width, size.height) / 1000.0, time);
-  for (const drawn_path &drawn : built.paths) brush.paint(drawn);
+  for (const drawn_path &drawn : built.paths) {
+    brush.paint(drawn);
+    progress(static_cast<double>(&drawn - built.paths.data()) / static_cast<double>(built.paths.size()));
+  }
 
   cairo_status_t status = cairo_status(page.get());
   if (status == CAIRO_STATUS_SUCCESS && ends_with(path, ".png"))

@@ -1,6 +1,7 @@
 // The polylines as a picture file.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "geometry_builder.hpp"
@@ -17,6 +18,7 @@ constexpr int largest_side = 20000;
 bool is_picture_name(const std::string &path);
 
 // Writes the picture and returns its size. Throws drawing_error when the file cannot be written.
-picture_size write_picture(const built_drawing &built, const std::string &path, picture_size size, library_time &time);
+picture_size write_picture(const built_drawing &built, const std::string &path, picture_size size, library_time &time,
+                           const std::function<void(double)> &progress);
 
 }  // namespace kxdraw

@@ -98,11 +98,11 @@ void print_reasons(std::ostream &out, const built_drawing &built) {
       skipped[{kind, f.fault}].push_back(name_of(f));
       continue;
     }
-    if (f.left_out > 0) partly[{kind, "not in every copy: " + f.fault}].push_back(name_of(f));
+    if (f.left_out > 0) partly[{kind, "not in every copy, " + f.fault}].push_back(name_of(f));
     if (!f.note.empty()) partly[{kind, f.note}].push_back(name_of(f));
   }
   print_reasons_of(out, "skipped, with handles", skipped);
-  print_reasons_of(out, "drawn in part, with handles", partly);
+  print_reasons_of(out, "drawn, but, with handles", partly);
 }
 
 void print_report(std::ostream &out, const built_drawing &built, const report_frame &frame, const library_time &time) {

@@ -46,7 +46,8 @@ struct shape_sampler {
   void operator()(const arc_shape &arc) {
     point_path out{.closed = arc.whole};
     const circle_2d circle{arc.centre.x * magnify, arc.centre.y * magnify, arc.radius * magnify};
-    const double sweep = arc.end > arc.start ? arc.end - arc.start : arc.end - arc.start + 360;
+    double sweep = std::fmod(arc.end - arc.start, 360);
+    if (sweep <= 0) sweep += 360;
     const std::int32_t status = time.measure(call_group::arcs, 1, [&] {
       return arc.whole ? kx_circlepnts_2d(&circle, tolerance * magnify, out.points.get())
                        : kx_arcpnts_2d(&circle, arc.start, sweep, tolerance * magnify, out.points.get());
@@ -61,7 +62,7 @@ struct shape_sampler {
         shape.centre.x * magnify, shape.centre.y * magnify, length * magnify, length * shape.ratio * magnify, 0, 0};
     const double start = kx_degrees(mirrored_plane ? -shape.end : shape.start);
     double sweep = kx_degrees(shape.end - shape.start);
-    if (sweep <= 0) sweep += 360;
+    if (sweep <= 0) sweep = std::fmod(sweep, 360) + 360;
     const bool whole = kx_parmeq(sweep, 360, 1e-9) == 1;
     point_path out{.closed = whole};
     const std::int32_t status = time.measure(call_group::arcs, 1, [&] {
@@ -95,6 +96,7 @@ struct shape_sampler {
       });
       result.paths.push_back(std::move(edge));
     }
+    if (result.paths.empty()) result.fault = "all its edges are marked invisible";
   }
 
   void keep(point_path path, const char *function, std::int32_t status, const char *meaning) {
@@ -113,8 +115,7 @@ struct shape_sampler {
 double distance(const pnt_2d &a, const pnt_2d &b) { return std::sqrt(kx_sumsqrdparms(b.x - a.x, b.y - a.y)); }
 
 // How far a point may be from the segment ab: it lies on an ellipse with the foci a and b, and no point of that is
-// farther from the segment than the minor semi-axis. Exact halfway, and 0 on the segment wherever the point stands
-// there.
+// farther from the segment than the minor semi-axis. Exact halfway along the segment, and 0 everywhere on it.
 double deviation(const pnt_2d &a, const pnt_2d &b, const pnt_2d &point) {
   const double way = distance(a, point) + distance(point, b), chord = distance(a, b);
   return std::sqrt(std::fmax(0.0, (way - chord) * (way + chord))) / 2;
@@ -259,7 +260,15 @@ struct rough_outline {
   void operator()(const insert_shape &) {}
   void operator()(const point_shape &point) { add(point.at.x, point.at.y); }
   void operator()(const path_shape &path) {
-    for (const vertex &at : path.vertices) add(at.x, at.y);
+    for (std::size_t i = 0; i < path.vertices.size(); ++i) {
+      const vertex &from = path.vertices[i], &to = path.vertices[(i + 1) % path.vertices.size()];
+      add(from.x, from.y);
+      if (std::abs(from.bulge) <= 1) continue;  // up to a half circle stays close to its chord
+      const pnt_2d a{from.x, from.y}, b{to.x, to.y};
+      circle_2d circle{};
+      double start = 0, sweep = 0;
+      if (kx_arc_bulge_2d(&a, &b, from.bulge, &circle, &start, &sweep) == 0) around({circle.x, circle.y}, circle.r);
+    }
   }
   void operator()(const arc_shape &arc) { around(arc.centre, arc.radius); }
   void operator()(const ellipse_shape &ellipse) {

@@ -70,6 +70,26 @@ TEST(curve_record, keeps_a_list_that_is_no_polygon) {
   EXPECT_EQ(kx_purge_curve(c), 0);
 }
 
+TEST(curve_record, is_purged_with_lists_of_different_lengths) {
+  for (int more : {0, 1}) {  // points without statistics beside them, then statistics without points
+    faults::watch();
+    curve *c = full_curve(KX_POLY_2D);
+    kx::release(ll_delete_list_item(more ? c->curve_pnts : c->curve_stats, 1, 0));
+    EXPECT_EQ(kx_purge_curve(c), 0);
+    // an item that is no point: the samples before it go, the rest stays in good order
+    c = full_curve(KX_POLY_2D);
+    list_item *odd = c->curve_pnts->head->next->next;
+    odd->datatype = KX_CURVE_STATS_2D;
+    EXPECT_EQ(kx_purge_curve(c), 9);
+    EXPECT_TRUE(c->curve_pnts->head == odd && c->curve_pnts->current == odd && !odd->prev);
+    EXPECT_EQ(c->curve_pnts->count, 8);
+    odd->datatype = KX_POLY_2D;
+    EXPECT_EQ(kx_purge_curve(c), 0);
+    faults::unwatch();
+    EXPECT_EQ(faults::live_blocks(), 0);
+  }
+}
+
 TEST(curve_record, is_copied_whole_or_not_at_all) {
   for (int32_t tag : {KX_POLY_2D, KX_PNT_3D}) {
     curve *c = full_curve(tag), *copy = kx_copy_curve(c);
