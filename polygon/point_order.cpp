@@ -35,10 +35,14 @@ class area {
 
 // The first vertex stays the first one; where the last repeats it, it stays repeated.
 void turn_round(const list_hdr &list, bool closed) {
-  list_item *front = closed ? list.head : list.head->next, *back = list.tail;
+  list_item *front = list.head, *back = list.tail;
+  if (!closed) front = front->next;
   while (front && front != back) {
-    std::swap(front->data, back->data);
-    std::swap(front->datatype, back->datatype);
+    const list_item kept = *front;
+    front->data = back->data;
+    front->datatype = back->datatype;
+    back->data = kept.data;
+    back->datatype = kept.datatype;
     if (front->next == back) return;
     front = front->next;
     back = back->prev;

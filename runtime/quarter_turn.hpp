@@ -1,6 +1,6 @@
-// Directions by quadrant, and the pseudo-angle: a number from 0 up to 4 that grows with the angle by 1 per quarter turn,
-// the whole quarters plus the tangent of half of what remains. It costs a division and a root, and comparing two of
-// them compares the angles.
+// Directions by quadrant, and the pseudo-angle: a number from 0 up to 4 that grows with the angle by 1 per quarter
+// turn, the whole quarters plus the tangent of half of what remains. It costs a division and a root, and comparing two
+// of them compares the angles.
 #pragma once
 
 #include <cmath>

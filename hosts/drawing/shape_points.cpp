@@ -112,12 +112,10 @@ struct shape_sampler {
 
 // ---- splines ----
 
-double distance(const pnt_2d &a, const pnt_2d &b) { return std::sqrt(kx_sumsqrdparms(b.x - a.x, b.y - a.y)); }
-
 // How far a point may be from the segment ab: it lies on an ellipse with the foci a and b, and no point of that is
 // farther from the segment than the minor semi-axis. Exact halfway along the segment, and 0 everywhere on it.
 double deviation(const pnt_2d &a, const pnt_2d &b, const pnt_2d &point) {
-  const double way = distance(a, point) + distance(point, b), chord = distance(a, b);
+  const double way = kx_distance(&a, &point) + kx_distance(&point, &b), chord = kx_distance(&a, &b);
   return std::sqrt(std::fmax(0.0, (way - chord) * (way + chord))) / 2;
 }
 
@@ -195,7 +193,7 @@ owned_curve shape_sampler::spline_curve(const spline_shape &spline, int steps) {
 // The samples at every other fine step. Spans that join share a point; where they do not, a new path begins.
 void split_spans(const std::vector<pnt_2d> &fine, std::size_t fine_steps, double gap, std::vector<point_path> &paths) {
   for (std::size_t span = 0; span < fine.size(); span += fine_steps + 1) {
-    const bool joined = span > 0 && distance(fine[span - 1], fine[span]) <= gap;
+    const bool joined = span > 0 && kx_distance(&fine[span - 1], &fine[span]) <= gap;
     if (!joined) paths.emplace_back();
     for (std::size_t i = joined ? 2 : 0; i <= fine_steps; i += 2)
       paths.back().points.add_point(fine[span + i].x, fine[span + i].y);

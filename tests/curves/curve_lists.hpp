@@ -14,6 +14,7 @@
 #include "kxgeom/records.h"
 #include "list/items.hpp"
 #include "records/dimension.hpp"
+#include "support/faults.hpp"
 
 namespace curve_lists {
 
@@ -70,5 +71,69 @@ inline void free_curve(curve *c) {
   const bool freed = c == nullptr || kx_purge_curve(c) == 0 || kx_purge_curve(c) == 0;
   EXPECT_TRUE(freed);
 }
+
+struct owner {
+  curve *c;
+  ~owner() { free_curve(c); }
+  operator curve *() const { return c; }
+  curve *operator->() const { return c; }
+};
+
+// What a definer is given.
+struct lists {
+  list_hdr *ctrl, *knots, *weights;
+  curve *c = nullptr;
+
+  lists(int32_t tag, int n, size_t knot_count, size_t weight_count)
+      : ctrl(points(tag, n)),
+        knots(numbers(std::vector<double>(knot_count))),
+        weights(numbers(std::vector<double>(weight_count))) {}
+  int32_t count() const { return ctrl->count + knots->count + weights->count; }
+  void release() const {
+    for (list_hdr *list : {ctrl, knots, weights}) ll_purge_all_items(list);
+  }
+};
+
+// A definer without memory makes no curve and leaves the lists.
+template <class Setup, class Define>
+void expect_all_or_nothing(Setup setup, Define define, int allocations) {
+  const auto check = [](int n, lists in, curve *c) {
+    EXPECT_TRUE((c == nullptr) == (n > 0) && kx::empty(in.ctrl) == (n == 0));
+    EXPECT_TRUE(n == 0 || in.count() == 14);
+    if (c != in.c) free_curve(in.c);
+    free_curve(c);
+    in.release();
+  };
+  EXPECT_EQ(faults::fail_each_allocation(setup, define, check), allocations);
+}
+
+// Sampling without memory keeps the samples made so far. The allocations `before` them begin with the two output lists.
+template <class Define, class Make>
+void expect_samples_kept(Define define, Make make, int before, const std::string &location, int samples) {
+  const auto without_outputs = [=] {
+    curve *c = define();
+    EXPECT_EQ(ll_purge_list(c->curve_pnts) + ll_purge_list(c->curve_stats), 0);
+    c->curve_pnts = c->curve_stats = nullptr;
+    return c;
+  };
+  const auto check = [=](int n, curve *c, int32_t code) {
+    EXPECT_EQ(code, n > 0 ? 80 : 0);
+    EXPECT_EQ(ll_get_list_count(c->curve_pnts), n > 0 ? std::max(0, (n - before - 1) / 4) : samples);
+    EXPECT_EQ(ll_get_list_count(c->curve_stats), ll_get_list_count(c->curve_pnts));
+    EXPECT_EQ(faults::messages().size(), n > 0 ? 1u : 0u);
+    EXPECT_TRUE(n != before || faults::messages()[0] == "Memory Error: " + location);
+    free_curve(c);
+  };
+  EXPECT_EQ(faults::fail_each_allocation(without_outputs, make, check), before + 4 * samples);
+}
+
+// Counts blocks as long as it lives, and all are to be freed by then.
+struct no_leaks {
+  no_leaks() { faults::watch(); }
+  ~no_leaks() {
+    faults::unwatch();
+    EXPECT_EQ(faults::live_blocks(), 0);
+  }
+};
 
 }  // namespace curve_lists

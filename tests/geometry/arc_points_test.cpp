@@ -15,8 +15,8 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN(), inf = std::nume
 const double degree = std::acos(-1.0) / 180;
 
 TEST(ArcPoints, Counts) {
-  const double table[][4] = {// radius, sweep, tolerance, points
-                             {1, 360, 1 - std::sqrt(0.5), 5},
+  // radius, sweep, tolerance, points
+  const double table[][4] = {{1, 360, 1 - std::sqrt(0.5), 5},
                              {1, 360, 0.2928, 6},
                              {1, 360, 10, 4},
                              {1, 360, inf, 4},
@@ -109,24 +109,18 @@ TEST(ArcPoints, Statuses) {
   list_hdr foreign{};
   kx::append(foreign, kx::create_pnt_2d(), KX_PNT_2D);
   list_hdr *const l = &list.list;
-  const int null_or_foreign[] = {
-      kx_circlepnts_2d(nullptr, 1, l),         kx_circlepnts_2d(&c, 1, nullptr),
-      kx_circlepnts_2d(&c, 1, &foreign),       kx_bulgepnts_2d(&o, nullptr, 0, 1, l),
-      kx_bulgepnts_2d(&o, &p, 0, 1, &foreign), kx_arc_bulge_2d(&o, &p, 1, &out, &s, nullptr)};
-  const int bad_values[] = {kx_arcpnts_2d(&small, 0, 1, 1, l),
-                            kx_arcpnts_2d(&off, 0, 1, 1, l),
-                            kx_arcpnts_2d(&vast, 0, 1, 1, l),
-                            kx_arcpnts_2d(&c, nan, 1, 1, l),
-                            kx_arcpnts_2d(&c, 0, inf, 1, l),
-                            kx_bulgepnts_2d(&none, &p, 0, 1, l),
-                            kx_bulgepnts_2d(&o, &far, 1, 1, l),
-                            kx_bulgepnts_2d(&o, &p, nan, 1, l),
-                            kx_arc_bulge_2d(&o, &p, 1e-7, &out, &s, &w),
-                            kx_arc_bulge_2d(&o, &p, inf, &out, &s, &w)};
-  for (const int &status : null_or_foreign) EXPECT_EQ(status, 1) << &status - null_or_foreign;
-  for (const int &status : bad_values) EXPECT_EQ(status, 3) << &status - bad_values;
-  EXPECT_EQ(kx_arc_bulge_2d(&o, &near, 1, &out, &s, &w), 2);
-  EXPECT_EQ(kx_bulgepnts_2d(&o, &near, 1, 1, l), 2);
+  const std::pair<int, std::vector<int32_t>> table[] = {
+      {1,
+       {kx_circlepnts_2d(nullptr, 1, l), kx_circlepnts_2d(&c, 1, nullptr), kx_circlepnts_2d(&c, 1, &foreign),
+        kx_bulgepnts_2d(&o, nullptr, 0, 1, l), kx_bulgepnts_2d(&o, &p, 0, 1, &foreign),
+        kx_arc_bulge_2d(&o, &p, 1, &out, &s, nullptr)}},
+      {2, {kx_arc_bulge_2d(&o, &near, 1, &out, &s, &w), kx_bulgepnts_2d(&o, &near, 1, 1, l)}},
+      {3,
+       {kx_arcpnts_2d(&small, 0, 1, 1, l), kx_arcpnts_2d(&off, 0, 1, 1, l), kx_arcpnts_2d(&vast, 0, 1, 1, l),
+        kx_arcpnts_2d(&c, nan, 1, 1, l), kx_arcpnts_2d(&c, 0, inf, 1, l), kx_bulgepnts_2d(&none, &p, 0, 1, l),
+        kx_bulgepnts_2d(&o, &far, 1, 1, l), kx_bulgepnts_2d(&o, &p, nan, 1, l),
+        kx_arc_bulge_2d(&o, &p, 1e-7, &out, &s, &w), kx_arc_bulge_2d(&o, &p, inf, &out, &s, &w)}}};
+  for (const auto &[status, given] : table) EXPECT_EQ(given, std::vector<int32_t>(given.size(), status));
   EXPECT_TRUE(list.list.count == 0 && out.x == 5);
   EXPECT_EQ(kx_bulgepnts_2d(&o, &near, 1e-7, 1, l), 0);
   EXPECT_EQ(list.list.count, 1);

@@ -44,7 +44,6 @@ TEST(EllipsePoints, CloseOrRefuse) {
   EXPECT_TRUE(out.points()[0].x == 1 && out.points()[0].y == 5 && out.closed() && odd.closed());
   for (const ellipse_2d *bad : {&thin, &flat, &off}) EXPECT_EQ(kx_ellipsepnts_2d(bad, 0, 1, &none.list), 3);
   EXPECT_EQ(kx_ellipsepnts_2d(&e, inf, 1, &none.list), 3);
-  EXPECT_EQ(kx_ellipsepnts_2d(nullptr, 0, 1, &none.list), 1);
-  EXPECT_EQ(kx_ellipsepnts_2d(&e, 0, 1, nullptr), 1);
+  EXPECT_TRUE(kx_ellipsepnts_2d(nullptr, 0, 1, &none.list) == 1 && kx_ellipsepnts_2d(&e, 0, 1, nullptr) == 1);
   EXPECT_EQ(none.list.count, 0);
 }

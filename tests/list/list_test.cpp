@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <new>
 #include <random>
 #include <vector>
 
@@ -36,30 +37,22 @@ struct model {
   int size() const { return static_cast<int>(v.size()); }
 
   void add(int where, void *data) {
-    int place = size();
-    if (where == 0) place = 0;
-    if (where == 2 && at >= 0) place = at + 1;
-    if (where == 3 && at >= 0) place = at;
+    const int place = where == 0 ? 0 : where == 2 && at >= 0 ? at + 1 : where == 3 && at >= 0 ? at : size();
     v.insert(v.begin() + place, data);
     at = place;
   }
 
   void *take(int which, int new_current) {
-    int i = at;
-    if (which == 0) i = 0;
-    if (which == 1) i = size() - 1;
-    if (which == 2) i = at + 1;
-    if (which == 3) i = at - 1;
+    const int items[] = {0, size() - 1, at + 1, at - 1};
+    const int i = which >= 0 && which < 4 ? items[which] : at;
     if (v.empty() || i < 0 || i >= size()) return nullptr;
     const bool own = i == at;
     const int after = own ? i + 1 : at + 1 + (i == at + 1);  // neighbours as they stand once the item is unlinked
     const int before = own ? i - 1 : at - 1 - (i == at - 1);
-    int next = at;
-    if (new_current == 0) next = i == 0 ? 1 : 0;
-    if (new_current == 1) next = i == size() - 1 ? size() - 2 : size() - 1;
-    if (new_current == 2) next = after < size() ? after : (i == 0 ? 1 : 0);
-    if (new_current == 3) next = before >= 0 ? before : (i == size() - 1 ? size() - 2 : size() - 1);
-    if ((new_current < 0 || new_current > 3) && own) next = i + 1 < size() ? i + 1 : 0;
+    const int head = i == 0, tail = size() - 1 - (i == size() - 1);
+    const int nexts[] = {head, tail, after < size() ? after : head, before >= 0 ? before : tail};
+    int next = own ? (i + 1) % size() : at;
+    if (new_current >= 0 && new_current < 4) next = nexts[new_current];
     void *data = v[static_cast<std::size_t>(i)];
     v.erase(v.begin() + i);
     at = v.empty() ? -1 : next - (next > i);
@@ -83,6 +76,11 @@ struct model {
   }
 };
 
+list_hdr *add(list_hdr *list, void *data, int32_t tag) {
+  ll_add_list_item(list, 1, data, tag);
+  return list;
+}
+
 TEST(list, follows_a_model_through_random_operations) {
   std::mt19937 random(20);
   auto any = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
@@ -94,19 +92,14 @@ TEST(list, follows_a_model_through_random_operations) {
       void *cell = &cells[any(200)];
       const int a = any(6), b = any(6);
       switch (any(7)) {
-        case 0:
-        case 1:
-          ASSERT_EQ(ll_add_list_item(list, a, cell, 1000), 1);
-          m.add(a, cell);
-          break;
-        case 2: ASSERT_EQ(ll_delete_list_item(list, a, b), m.take(a, b)); break;
-        case 3: ASSERT_EQ(ll_set_list_currpntr(list, a), m.move(a)); break;
-        case 4: ASSERT_EQ(ll_pop_list(list), m.take(0, 0)); break;
-        case 5:
-          ASSERT_EQ(ll_push_list(list, cell, 1000), 1);
-          m.add(0, cell);
-          break;
-        default: ll_rearrange_list(list, b % 2); m.rearrange(b % 2);
+        case 0: ASSERT_EQ(ll_delete_list_item(list, a, b), m.take(a, b)); break;
+        case 1: ASSERT_EQ(ll_set_list_currpntr(list, a), m.move(a)); break;
+        case 2: ASSERT_EQ(ll_pop_list(list), m.take(0, 0)); break;
+        case 3: ll_rearrange_list(list, b % 2), m.rearrange(b % 2); break;
+        default:  // added by number, or pushed
+          const bool push = b == 0;
+          ASSERT_EQ(push ? ll_push_list(list, cell, 1000) : ll_add_list_item(list, a, cell, 1000), 1);
+          m.add(push ? 0 : a, cell);
       }
       expect_list(*list, m.v, m.at);
       if (::testing::Test::HasFatalFailure()) return;
@@ -128,9 +121,8 @@ int32_t compare_address(void *data, void *key) { return data == key; }
 TEST(list, search_answers_in_the_order_of_its_tests) {
   list_hdr empty{}, one{}, two{};
   char a, b, none;
-  ll_add_list_item(&one, 1, &a, 1);
-  ll_add_list_item(&two, 1, &a, 1);
-  ll_add_list_item(&two, 1, &b, 1);
+  add(&one, &a, 1);
+  add(add(&two, &a, 1), &b, 1);
   struct {
     list_hdr *list;
     int start, end, direction;
@@ -150,57 +142,43 @@ TEST(list, search_answers_in_the_order_of_its_tests) {
 TEST(list, typed_items_keep_lists_of_one_kind) {
   list_hdr *list = ll_create_list();
   EXPECT_EQ(ll_add_rnumber(list, 1, 1.5), 0) << "the first item is the caller's to add";
-  auto *first = kx_create_poly_3d();
-  kx_set_poly_3d(1, 2, 3, 41, first);
-  ll_add_list_item(list, 1, first, 63);
+  add(list, new (kx_create_poly_3d()) poly_3d{41, 1, 2, 3}, 63);
   const pnt_2d flat{4, 5};
   const pnt_3d deep{6, 7, 8};
   ll_add_pnt2d(list, 2, &flat);
   ll_set_list_currpntr(list, 0);
   EXPECT_EQ(ll_add_pnt3d(list, 2, &deep), 1) << "appends: numbering has moved the position to the tail";
   const auto *tail = static_cast<poly_3d *>(list->tail->data);
-  EXPECT_EQ(+tail->seqnr, 43);
-  EXPECT_EQ(+tail->z, 8);
-  EXPECT_EQ(+ll_get_pnt3d(list, 0).z, 3);
-  EXPECT_EQ(+ll_get_pnt3d(list, 3).z, 0) << "the item before the tail";
+  EXPECT_TRUE(tail->seqnr == 43 && tail->z == 8);
+  EXPECT_TRUE(ll_get_pnt3d(list, 0).z == 3 && ll_get_pnt3d(list, 3).z == 0) << "the item before the tail";
   EXPECT_EQ(+ll_get_pnt2d(list, 2).x, 1) << "next of the tail wraps to the head";
   EXPECT_TRUE(list->current == list->tail) << "reading leaves the position";
-  EXPECT_EQ(ll_add_inumber(list, 1, 3), 0);
-  EXPECT_EQ(ll_add_string(list, 1, "x"), 0);
-  EXPECT_EQ(ll_get_rnumber(list, 4), 0.0);
+  EXPECT_EQ(ll_add_inumber(list, 1, 3) + ll_add_string(list, 1, "x") + ll_get_rnumber(list, 4), 0);
   EXPECT_EQ(ll_purge_all_items(list), 3);
 
-  list = ll_create_list();
-  char *text = kx_create_char_array(1);
-  text[0] = 0;
-  ll_add_list_item(list, 1, text, 101);
+  list = add(ll_create_list(), new (kx_create_char_array(1)) char{}, 101);
   EXPECT_EQ(ll_add_string(list, 0, "seven"), 1);
   char buffer[8] = "???????";
-  EXPECT_EQ(ll_get_string(list, 0, buffer), 5);
+  EXPECT_TRUE(ll_get_string(list, 0, buffer) == 5 && ll_get_string_len(list, 1) == 0);
   EXPECT_STREQ(buffer, "seven");
-  EXPECT_EQ(ll_get_string_len(list, 1), 0);
   EXPECT_EQ(ll_purge_all_items(list), 2);
 }
 
 TEST(list, a_mixed_list_is_never_read_past_a_record) {
-  list_hdr *list = ll_create_list();
-  ll_add_list_item(list, 1, kx_create_inumber(), 82);
-  ll_add_list_item(list, 1, kx_create_pnt_2d(), 50);
-  ll_add_list_item(list, 1, kx_create_rnumber(), 81);
+  list_hdr *list = add(add(ll_create_list(), kx_create_inumber(), 82), kx_create_pnt_2d(), 50);
+  add(list, kx_create_rnumber(), 81);
   EXPECT_EQ(ll_get_rnumber(list, 0), 0.0);
   EXPECT_EQ(ll_get_rnumber(list, 3), 0.0) << "a larger record is read as the current item's kind";
-  ll_add_list_item(list, 1, kx_create_pnt_3d(), 51);
+  add(list, kx_create_pnt_3d(), 51);
   for (int which = 0; which < 5; ++which) EXPECT_EQ(+ll_get_pnt3d(list, which).z, 0.0);
   EXPECT_EQ(ll_get_string_len(list, 0), 0);
   EXPECT_EQ(ll_purge_all_items(list), 4);
 }
 
 TEST(list, clearing_stops_at_data_that_is_not_its_own) {
-  list_hdr *list = ll_create_list();
   curve_stats_2d stats{};
-  ll_add_list_item(list, 1, kx_create_pnt_2d(), 50);
-  ll_add_list_item(list, 1, &stats, 60);
-  ll_add_list_item(list, 1, kx_create_pnt_2d(), 50);
+  list_hdr *list = add(add(ll_create_list(), kx_create_pnt_2d(), 50), &stats, 60);
+  add(list, kx_create_pnt_2d(), 50);
   ll_set_list_currpntr(list, 0);
   ll_set_list_currpntr(list, 2);
   EXPECT_EQ(ll_purge_all_items(list), 3) << "the current item's tag closes the list";
@@ -214,13 +192,9 @@ TEST(list, clearing_stops_at_data_that_is_not_its_own) {
 }
 
 TEST(list, a_header_whose_items_were_taken_over_is_empty) {
-  list_hdr *list = ll_create_list(), owner;
-  ll_add_list_item(list, 1, kx_create_pnt_2d(), 50);
-  owner = *list;
+  list_hdr *list = add(ll_create_list(), kx_create_pnt_2d(), 50), owner = *list;
   list->head = nullptr;
-  EXPECT_EQ(ll_get_list_data(list), nullptr);
-  EXPECT_EQ(ll_get_datatype(list), 0);
-  EXPECT_EQ(ll_delete_list_item(list, 4, 0), nullptr);
+  EXPECT_TRUE(!ll_get_list_data(list) && ll_get_datatype(list) == 0 && !ll_delete_list_item(list, 4, 0));
   EXPECT_EQ(ll_set_list_currpntr(list, 2), 1);
   ll_add_list_item(list, 2, kx_create_pnt_2d(), 50);
   expect_list(*list, {list->head->data}, 0);
@@ -229,66 +203,47 @@ TEST(list, a_header_whose_items_were_taken_over_is_empty) {
 }
 
 TEST(list, null_lists_and_absurd_counts_give_the_failure_value) {
-  EXPECT_EQ(ll_add_list_item(nullptr, 0, nullptr, 50), 0);
-  EXPECT_EQ(ll_delete_item(nullptr, 0, 0), 0);
-  EXPECT_EQ(ll_set_list_currpntr(nullptr, 2), 1);
-  EXPECT_EQ(ll_purge_list(nullptr), 8);
-  EXPECT_EQ(ll_purge_all_items(nullptr), 0);
-  EXPECT_EQ(ll_get_list_array(nullptr, nullptr), 0);
+  EXPECT_EQ(ll_add_list_item(nullptr, 0, nullptr, 50) + ll_delete_item(nullptr, 0, 0), 0);
+  EXPECT_EQ(ll_purge_all_items(nullptr) + ll_get_list_array(nullptr, nullptr), 0);
+  EXPECT_TRUE(ll_set_list_currpntr(nullptr, 2) == 1 && ll_purge_list(nullptr) == 8);
   ll_init_list_hdr(nullptr);
   ll_rearrange_list(nullptr, 1);
-  EXPECT_EQ(ll_create_list_array(-1), nullptr);
-  EXPECT_EQ(ll_create_list_pntrarray(INT32_MIN), nullptr);
+  EXPECT_TRUE(!ll_create_list_array(-1) && !ll_create_list_pntrarray(INT32_MIN));
   list_hdr *lists = ll_create_list_array(3);
   for (int i = 0; i < 3; ++i) expect_list(lists[i], {}, -1);
   ll_purge_list_array(lists);
 }
 
 TEST(list, every_failing_allocation_is_reported_and_undone) {
-  auto fresh = [] {
-    list_hdr *list = ll_create_list();
-    ll_add_list_item(list, 1, kx_create_poly_2d(), 62);
-    return list;
+  const auto said = [](int n, std::vector<const char *> texts) {
+    const auto messages = faults::messages();
+    return n == 0 || messages == std::vector{std::string("Memory Error: ") + texts.at(static_cast<std::size_t>(n - 1))};
   };
-  const pnt_2d p{1, 2};
-  auto judged = [](std::vector<const char *> texts) {
-    return [texts](int n, list_hdr *list, int result) {
-      EXPECT_EQ(result, n == 0);
-      EXPECT_EQ(ll_get_list_count(list), n == 0 ? 2 : 1);
-      if (n > 0)
-        EXPECT_EQ(faults::messages(),
-                  std::vector<std::string>{std::string("Memory Error: ") + texts[static_cast<std::size_t>(n - 1)]});
+  for (bool string : {false, true}) {
+    const auto fresh = [=] {
+      void *data = string ? static_cast<void *>(new (kx_create_char_array(0)) char{}) : kx_create_poly_2d();
+      return add(ll_create_list(), data, string ? 101 : 62);
+    };
+    const pnt_2d p{1, 2};
+    const auto add_one = [&](list_hdr *l) { return string ? ll_add_string(l, 0, "abc") : ll_add_pnt2d(l, 1, &p); };
+    const auto check = [&](int n, list_hdr *list, int result) {
+      EXPECT_TRUE(result == (n == 0) && ll_get_list_count(list) == 1 + result);
+      EXPECT_TRUE(said(n, {string ? "kx_create_char_array" : "kx_create_poly_2d", "ll_add_list_item"}));
       ll_purge_all_items(list);
     };
-  };
-  EXPECT_EQ(faults::fail_each_allocation(
-                fresh, [&](list_hdr *l) { return ll_add_pnt2d(l, 1, &p); },
-                judged({"kx_create_poly_2d", "ll_add_list_item"})),
-            2);
-  auto strings = [] {
-    list_hdr *list = ll_create_list();
-    ll_add_list_item(list, 1, kx_create_char_array(0), 101);
-    static_cast<char *>(list->head->data)[0] = 0;
-    return list;
-  };
-  EXPECT_EQ(faults::fail_each_allocation(
-                strings, [](list_hdr *l) { return ll_add_string(l, 0, "abc"); },
-                judged({"kx_create_char_array", "ll_add_list_item"})),
-            2);
-  auto nothing = [] { return 0; };
-  auto gone = [](const char *text) {
-    return [text](int n, int, void *made) {
-      EXPECT_EQ(made == nullptr, n > 0);
-      if (n > 0) EXPECT_EQ(faults::messages().at(0), std::string("Memory Error: ") + text);
+    EXPECT_EQ(faults::fail_each_allocation(fresh, add_one, check), 2);
+  }
+  const std::pair<const char *, void *(*)()> makers[] = {
+      {"ll_create_list", [] { return static_cast<void *>(ll_create_list()); }},
+      {"ll_create_list_array", [] { return static_cast<void *>(ll_create_list_array(5)); }},
+      {"ll_create_list_pntrarray", [] { return static_cast<void *>(ll_create_list_pntrarray(5)); }}};
+  for (const auto &[text, make] : makers) {
+    const auto check = [&, text = text](int n, int, void *made) {
+      EXPECT_TRUE((made == nullptr) == (n > 0) && said(n, {text}));
       if (made) ll_purge_list_array(static_cast<list_hdr *>(made));
     };
-  };
-  faults::fail_each_allocation(
-      nothing, [](int) -> void * { return ll_create_list(); }, gone("ll_create_list"));
-  faults::fail_each_allocation(
-      nothing, [](int) -> void * { return ll_create_list_array(5); }, gone("ll_create_list_array"));
-  faults::fail_each_allocation(
-      nothing, [](int) -> void * { return ll_create_list_pntrarray(5); }, gone("ll_create_list_pntrarray"));
+    faults::fail_each_allocation([] { return 0; }, [make = make](int) { return make(); }, check);
+  }
 }
 
 }  // namespace

@@ -32,11 +32,11 @@ struct polygon_list {
     const list_item *before = nullptr;
     for (const list_item *i = list.head; i; before = i, i = i->next) {
       const pnt_3d p = kx::read_point(i->data, i->datatype);
-      EXPECT_EQ(i->prev, before);
+      EXPECT_TRUE(i->prev == before);
       all.push_back({p.x, p.y});
     }
-    EXPECT_EQ(list.tail, before);
-    EXPECT_EQ(list.count, static_cast<int>(all.size()));
+    EXPECT_TRUE(list.tail == before);
+    EXPECT_EQ(+list.count, static_cast<int>(all.size()));
     return all;
   }
 };

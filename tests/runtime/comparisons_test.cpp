@@ -7,23 +7,21 @@
 
 namespace {
 
-constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
-
-constexpr double t = 0.125, past = 1e-9;
+constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN(), t = 0.125, past = 1e-9;
 constexpr double bound = (4.0 + 1.0) * t;  // the allowance of +-4
 
 }  // namespace
 
 TEST(comparisons, both_sides_of_the_tolerance_which_the_second_number_scales) {
-  EXPECT_TRUE(kx_parmzero(t, t) && kx_parmzero(-t, t) && kx_parmlezero(t, t) && kx_parmgezero(-t, t));
-  EXPECT_FALSE(kx_parmzero(t + past, t) || kx_parmzero(-t - past, t));
-  EXPECT_FALSE(kx_parmlezero(t + past, t) || kx_parmgezero(-t - past, t));
-  for (double b : {4.0, -4.0}) {
-    const double above = b + bound, below = b - bound;
+  for (double sign : {1.0, -1.0}) {
+    EXPECT_TRUE(kx_parmzero(sign * t, t) && !kx_parmzero(sign * (t + past), t));
+    const double b = 4 * sign, above = b + bound, below = b - bound;
     EXPECT_TRUE(kx_parmeq(above, b, t) && kx_parmeq(below, b, t) && kx_parmle(above, b, t) && kx_parmge(below, b, t));
     EXPECT_FALSE(kx_parmeq(above + past, b, t) || kx_parmeq(below - past, b, t));
     EXPECT_FALSE(kx_parmle(above + past, b, t) || kx_parmge(below - past, b, t));
   }
+  EXPECT_TRUE(kx_parmlezero(t, t) && kx_parmgezero(-t, t));
+  EXPECT_FALSE(kx_parmlezero(t + past, t) || kx_parmgezero(-t - past, t));
   EXPECT_TRUE(kx_parmeq(4.0, 4.6875, t) && !kx_parmeq(4.6875, 4.0, t));
 }
 
@@ -42,9 +40,7 @@ TEST(comparisons, strict_and_inclusive_are_opposites_also_for_nan) {
 
 TEST(comparisons, points) {
   double small = 1e-7, large = 1.1e-7;
-  kx_settozero(&small);
-  kx_settozero(&large);
-  kx_settozero(nullptr);
+  for (double *value : {&small, &large, static_cast<double *>(nullptr)}) kx_settozero(value);
   EXPECT_TRUE(small == 0.0 && large == 1.1e-7);
   for (int axis = 0; axis < 3; ++axis)
     for (double off : {1e-7, -1e-7, 1.1e-7, -1.1e-7}) {

@@ -12,11 +12,7 @@ texts shown(const char *code, int32_t number, const char *location) {
   return faults::messages();
 }
 
-struct answer {
-  int32_t result;
-  std::string text;
-  bool operator==(const answer &) const = default;
-};
+using answer = std::pair<int32_t, std::string>;
 
 answer message(int32_t number) {
   char buffer[144] = "untouched";
@@ -88,8 +84,8 @@ TEST(messages, no_file_or_no_memory_for_its_path) {
   std::filesystem::remove(folder.file());
   EXPECT_EQ(message(7), missing);
   std::filesystem::create_directory(folder.file());
-  EXPECT_EQ(message(7).result,
-            -1);  // a folder of that name can be opened on some systems, and must not be read for ever
+  // a folder of that name can be opened on some systems, and must not be read for ever
+  EXPECT_EQ(message(7).first, -1);
   std::filesystem::current_path(here);
 }
 
@@ -99,6 +95,6 @@ TEST(messages, delivered_file) {
        {"BADPARMS", "BAD90ANG", "BADCNT", "BADDEG", "BADKNOTSEQ", "BADFILE", "BADMODE", "BADPECOEFF", "BADPLANE",
         "BADPNTS", "BADRECT", "BADTVALUE", "LENGTHZERO", "NOPARB", "SPHRTHETA", "SPHRPHI"})
     EXPECT_EQ(shown(code, 0, "x").size(), 1u) << code;
-  for (int32_t number : {0, 1, 4, 23, 25, 33, 42, 52, 59, 60, 74, 75, 80}) EXPECT_EQ(message(number).result, number);
-  EXPECT_EQ(message(-1).text.substr(0, 24), "(0): There is no message");
+  for (int32_t number : {0, 1, 4, 23, 25, 33, 42, 52, 59, 60, 74, 75, 80}) EXPECT_EQ(message(number).first, number);
+  EXPECT_EQ(message(-1).second.substr(0, 24), "(0): There is no message");
 }

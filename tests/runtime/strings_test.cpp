@@ -4,27 +4,19 @@
 
 #include "support/faults.hpp"
 
-namespace {
-
-std::string bytes(const char *text, std::size_t n) { return {text, n}; }
-
-}  // namespace
-
 TEST(strings, copy) {
   char to[7] = "......";
   kx_strcpy(to, 4, "abcdef");
-  EXPECT_EQ(bytes(to, 6), bytes("abc\0..", 6));
+  EXPECT_EQ(std::memcmp(to, "abc\0..", 6), 0);
   kx_strcpy(to, 6, "x");
-  EXPECT_EQ(bytes(to, 6), bytes("x\0\0\0\0\0", 6));
+  EXPECT_EQ(std::memcmp(to, "x\0\0\0\0\0", 6), 0);
   kx_strfill(to, 6, 'b');
-  kx_strcpy(to, 0, "a");
-  kx_strcpy(to, -1, "a");
+  for (int32_t none : {0, -1}) kx_strcpy(to, none, "a"), kx_strfill(to, none, 'a');
   kx_strcpy(nullptr, 4, "a");
-  kx_strfill(to, -1, 'a');
   kx_strfill(nullptr, 1, 'a');
   EXPECT_STREQ(to, "bbbbbb");
   kx_strcpy(to, 4, nullptr);
-  EXPECT_EQ(bytes(to, 6), bytes("\0\0\0\0bb", 6));
+  EXPECT_EQ(std::memcmp(to, "\0\0\0\0bb", 6), 0);
   std::strcpy(to, "abcde");
   kx_strcpy(to + 1, 5, to);
   EXPECT_STREQ(to, "aabcd");
@@ -33,11 +25,9 @@ TEST(strings, copy) {
 TEST(strings, length_equality_and_joining) {
   char to[16] = "ab";
   EXPECT_EQ(kx_strlen("abc") + kx_strlen("") + kx_strlen(nullptr), 3);
-  EXPECT_EQ(kx_strcmp("", ""), 1);
-  EXPECT_EQ(kx_strcmp("ab", to), 1);
+  EXPECT_TRUE(kx_strcmp("", "") == 1 && kx_strcmp("ab", to) == 1);
   EXPECT_EQ(kx_strcmp("a", to) + kx_strcmp(to, "b") + kx_strcmp(nullptr, nullptr) + kx_strcmp(to, nullptr), 0);
-  EXPECT_EQ(kx_strcat(to, "cd"), 4);
-  EXPECT_EQ(kx_strcat(to, to), 8);
+  EXPECT_TRUE(kx_strcat(to, "cd") == 4 && kx_strcat(to, to) == 8);
   EXPECT_STREQ(to, "abcdabcd");
   EXPECT_EQ(kx_strcat(nullptr, "a") + kx_strcat(to, nullptr), 0);
 }
@@ -64,13 +54,10 @@ TEST(strings, padding_and_trimming) {
 TEST(strings, arrays) {
   const auto check = [](int failed, int n, char *array) {
     EXPECT_EQ(array == nullptr, failed != 0);
-    std::vector<std::string> expected;
-    if (failed) expected.push_back("Memory Error: kx_create_char_array");
-    EXPECT_EQ(faults::messages(), expected);
-    if (array) kx_strfill(array, n + 1, 'x');
+    EXPECT_EQ(faults::messages(), std::vector<std::string>(failed != 0, "Memory Error: kx_create_char_array"));
+    kx_strfill(array, n + 1, 'x');
     kx_purge_char_array(array);
   };
   EXPECT_EQ(faults::fail_each_allocation([] { return 5; }, kx_create_char_array, check), 1);
-  EXPECT_EQ(kx_create_char_array(-1), nullptr);
-  EXPECT_TRUE(faults::messages().empty());
+  EXPECT_TRUE(!kx_create_char_array(-1) && faults::messages().empty());
 }

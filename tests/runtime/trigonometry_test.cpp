@@ -8,16 +8,14 @@ namespace {
 
 constexpr double pi = 3.1415926536, two_pi = 6.2831853072, degree = 57.2957795131;
 
-// The answer, "BADPARMS" being 0.0 with a message that names the function.
-template <class Function>
-bool refuses(Function f, double x, const char *name) {
+// Whether a function answers 0.0 and "BADPARMS" with its name.
+bool refuses(double(KX_CALL *f)(double), double x, const std::string &name) {
   faults::clear_messages();
   const double result = f(x);
   const auto shown = faults::messages();
-  if (shown.empty()) return false;
-  EXPECT_EQ(result, 0.0);
-  EXPECT_EQ(shown, std::vector<std::string>{std::string("BADPARMS&msgrec[i]\nLocation: ") + name + " Error Nr: 23"});
-  return true;
+  EXPECT_TRUE(shown.empty() ||
+              (result == 0.0 && shown == std::vector{"BADPARMS&msgrec[i]\nLocation: " + name + " Error Nr: 23"}));
+  return !shown.empty();
 }
 
 }  // namespace
@@ -56,11 +54,8 @@ TEST(trigonometry, turns_are_taken_off_one_by_one) {
 TEST(trigonometry, polar_angle) {
   for (double d = 0.5; d < 360; d += 1)
     EXPECT_NEAR(kx_arctan(3 * std::cos(d / degree), 3 * std::sin(d / degree)), d, 1e-7);
-  EXPECT_EQ(kx_arctan(1e-7, -1e-7), 0.0);
-  EXPECT_EQ(kx_arctan(1e-7, -2.0), 270.0);
-  EXPECT_EQ(kx_arctan(-1e-7, 2.0), 90.0);
-  EXPECT_EQ(kx_arctan(-1.0, -1e-7), 180.0);
-  EXPECT_EQ(kx_arctan(1.0, -1e-7), 0.0);
+  EXPECT_TRUE(kx_arctan(1e-7, -1e-7) == 0.0 && kx_arctan(1e-7, -2.0) == 270.0 && kx_arctan(-1e-7, 2.0) == 90.0);
+  EXPECT_TRUE(kx_arctan(-1.0, -1e-7) == 180.0 && kx_arctan(1.0, -1e-7) == 0.0);
   EXPECT_GT(kx_arctan(1.0, -1.1e-7), 359.0);
   EXPECT_EQ(kx_arctan(1e16, -1.0), 0.0);  // never a full 360
   EXPECT_TRUE(std::isnan(kx_arctan(NAN, 1.0)));
@@ -77,23 +72,16 @@ TEST(trigonometry, inverse_functions) {
     EXPECT_NEAR(kx_arccosecant(1 / std::sin(d / degree)), d > 0 ? d : -d - 180, 1e-7);
   }
   for (double off : {0.0, 0.9e-7, -0.9e-7}) {
-    EXPECT_EQ(kx_arcsin(off), 0.0);
-    EXPECT_EQ(kx_arcsin(1 + off), 90.0);
-    EXPECT_EQ(kx_arcsin(-1 + off), -90.0);
-    EXPECT_EQ(kx_arccos(off), 90.0);
-    EXPECT_EQ(kx_arccos(1 + off), 0.0);
-    EXPECT_EQ(kx_arccos(-1 + off), 180.0);
-    EXPECT_EQ(kx_arcsecant(1 + 2 * off), 0.0);
-    EXPECT_EQ(kx_arcsecant(-1 + 2 * off), -180.0);
-    EXPECT_EQ(kx_arccosecant(1 + 2 * off), 90.0);
-    EXPECT_EQ(kx_arccosecant(-1 + 2 * off), -90.0);
+    EXPECT_TRUE(kx_arcsin(off) == 0.0 && kx_arcsin(1 + off) == 90.0 && kx_arcsin(-1 + off) == -90.0) << off;
+    EXPECT_TRUE(kx_arccos(off) == 90.0 && kx_arccos(1 + off) == 0.0 && kx_arccos(-1 + off) == 180.0) << off;
+    EXPECT_TRUE(kx_arcsecant(1 + 2 * off) == 0.0 && kx_arcsecant(-1 + 2 * off) == -180.0) << off;
+    EXPECT_TRUE(kx_arccosecant(1 + 2 * off) == 90.0 && kx_arccosecant(-1 + 2 * off) == -90.0) << off;
   }
   EXPECT_TRUE(kx_arcsin(-1 + 1.5e-7) > -90.0 && kx_arccos(1 - 1.5e-7) > 0.0);
   EXPECT_TRUE(std::isnan(kx_arcsin(1 + 1.1e-7)) && std::isnan(kx_arccos(-1 - 1.1e-7)));
   EXPECT_EQ(kx_arccotangent(0.0), 1.5707963268 * degree);
   for (double x : {-0.9999997, 0.0, 0.9999997}) {
-    EXPECT_TRUE(refuses(kx_arcsecant, x, "kx_arcsecant"));
-    EXPECT_FALSE(refuses(kx_arccosecant, x, "kx_arccosecant"));
+    EXPECT_TRUE(refuses(kx_arcsecant, x, "kx_arcsecant") && !refuses(kx_arccosecant, x, ""));
     EXPECT_EQ(kx_arccosecant(x), 0.0);
   }
 }

@@ -1,55 +1,51 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
+#include <vector>
 
 #include "kxgeom/transform.h"
 
 namespace {
 
-struct builder {
-  const char *name;
-  std::function<void(double *)> build;
-  pnt_2d want;  // where (2, 3) goes
-};
-
 TEST(MatrixBuilders, MapAPointAndActInCallOrder) {
-  const pnt_2d centre{1, 1}, origin{0, 0};
-  const builder table[] = {{"move", [](double *m) { kx_translatematrix2d(5, -1, m); }, {7, 2}},
-                           {"turn", [&](double *m) { kx_rotationmatrix2d(90, &centre, m); }, {-1, 2}},
-                           {"turn back", [&](double *m) { kx_rotationmatrix2d(-90, &origin, m); }, {3, -2}},
-                           {"scale", [&](double *m) { kx_scalematrix2d(2, 3, &centre, m); }, {3, 7}},
-                           {"both factors small", [&](double *m) { kx_scalematrix2d(1e-7, -4, &centre, m); }, {2, 3}},
-                           {"one factor small", [&](double *m) { kx_scalematrix2d(0, 2, &centre, m); }, {1, 5}},
-                           {"mirror", [&](double *m) { kx_scalematrix2d(-1, 1.1e-7, &origin, m); }, {-2, 3.3e-7}},
-                           {"shear y", [](double *m) { kx_shearmatrix2d(1, 10, m); }, {2, 23}},
-                           {"shear x", [](double *m) { kx_shearmatrix2d(0, 10, m); }, {32, 3}},
-                           {"reflect 0", [](double *m) { kx_reflectmatrix2d(0, m); }, {2, -3}},
-                           {"reflect 1", [](double *m) { kx_reflectmatrix2d(1, m); }, {-2, 3}},
-                           {"reflect 2", [](double *m) { kx_reflectmatrix2d(2, m); }, {-2, -3}},
-                           {"reflect 3", [](double *m) { kx_reflectmatrix2d(3, m); }, {3, 2}},
-                           {"reflect 4", [](double *m) { kx_reflectmatrix2d(4, m); }, {-3, -2}},
-                           {"reflect -1", [](double *m) { kx_reflectmatrix2d(-1, m); }, {2, -3}}};
-  const pnt_2d p{2, 3};
+  const pnt_2d centre{1, 1}, origin{0, 0}, p{2, 3};
+  struct builder {
+    std::function<void(double *)> build;
+    pnt_2d want;  // where (2, 3) goes
+  };
+  std::vector<builder> table = {{[](double *m) { kx_translatematrix2d(5, -1, m); }, {7, 2}},
+                                {[&](double *m) { kx_rotationmatrix2d(90, &centre, m); }, {-1, 2}},
+                                {[&](double *m) { kx_rotationmatrix2d(-90, &origin, m); }, {3, -2}},
+                                {[&](double *m) { kx_scalematrix2d(2, 3, &centre, m); }, {3, 7}},
+                                {[&](double *m) { kx_scalematrix2d(1e-7, -4, &centre, m); }, {2, 3}},
+                                {[&](double *m) { kx_scalematrix2d(0, 2, &centre, m); }, {1, 5}},
+                                {[&](double *m) { kx_scalematrix2d(-1, 1.1e-7, &origin, m); }, {-2, 3.3e-7}},
+                                {[](double *m) { kx_shearmatrix2d(1, 10, m); }, {2, 23}},
+                                {[](double *m) { kx_shearmatrix2d(0, 10, m); }, {32, 3}}};
+  const pnt_2d reflected[] = {{2, -3}, {2, -3}, {-2, 3}, {-2, -3}, {3, 2}, {-3, -2}};  // by modes from -1
+  for (int mode = -1; mode < 5; ++mode)
+    table.push_back({[mode](double *m) { kx_reflectmatrix2d(mode, m); }, reflected[mode + 1]});
+  const auto map = [](const double *m, const pnt_2d &from) {
+    pnt_2d to;
+    kx_transformpnt2d(m, &from, &to);
+    return to;
+  };
+  const auto expect_same = [&](const pnt_2d &a, const pnt_2d &b, const builder &first, const builder &second) {
+    EXPECT_LE(std::hypot(a.x - b.x, a.y - b.y), 1e-9) << &first - &table[0] << ", " << &second - &table[0];
+  };
   for (const builder &first : table) {
-    double m[9];
+    double m[9], both[9], alone[9];
     kx_getidmatrix2d(m);
     first.build(m);
-    pnt_2d once;
-    kx_transformpnt2d(m, &p, &once);
-    EXPECT_NEAR(once.x, first.want.x, 1e-9) << first.name;
-    EXPECT_NEAR(once.y, first.want.y, 1e-9) << first.name;
-    EXPECT_TRUE(m[2] == 0 && m[5] == 0 && m[8] == 1) << first.name;
+    expect_same(map(m, p), first.want, first, first);
+    EXPECT_TRUE(m[2] == 0 && m[5] == 0 && m[8] == 1);
     for (const builder &second : table) {
-      double both[9], alone[9];
       kx_movematrix2d(m, both);
       second.build(both);
       kx_getidmatrix2d(alone);
       second.build(alone);
-      pnt_2d twice, composed;
-      kx_transformpnt2d(alone, &once, &twice);
-      kx_transformpnt2d(both, &p, &composed);
-      EXPECT_NEAR(composed.x, twice.x, 1e-9) << first.name << ", " << second.name;
-      EXPECT_NEAR(composed.y, twice.y, 1e-9) << first.name << ", " << second.name;
+      expect_same(map(both, p), map(alone, map(m, p)), first, second);
     }
     first.build(nullptr);  // does nothing
   }

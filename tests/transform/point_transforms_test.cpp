@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 
 #include "kxgeom/transform.h"
@@ -23,8 +24,7 @@ TEST(PointTransforms, AgreeWithTheBuiltMatrixAlsoInPlace) {
       if (i == 0) kx_translatepnt2d(&got, v, -2 * v, &got);
       if (i == 1) kx_rotatepnt2d(v, &centre, &got, &got);
       if (i == 2) kx_scalepnt2d(v, 1 - v, &centre, &got, &got);
-      EXPECT_NEAR(got.x, want.x, 1e-8) << i << " " << v;
-      EXPECT_NEAR(got.y, want.y, 1e-8) << i << " " << v;
+      EXPECT_TRUE(std::fabs(got.x - want.x) <= 1e-8 && std::fabs(got.y - want.y) <= 1e-8) << i << " " << v;
     }
   }
 }
@@ -61,9 +61,8 @@ TEST(PointTransforms, ListsByKindAndWithoutMemory) {
       EXPECT_EQ(kx::count(out), n == 1 || tag == KX_PNT_3D ? 0 : n ? 1 : 2);
       bool last = n == 2 || n == 3;  // the first one found no memory
       for (list_item &item : kx::items(out)) {
-        EXPECT_EQ(item.datatype, tag);
-        EXPECT_NEAR(kx::read_point(item.data, tag).x, last ? 13 : 11, 0);
-        EXPECT_NEAR(kx::read_point(item.data, tag).y, last ? 24 : 22, 0);
+        const pnt_3d at = kx::read_point(item.data, tag);
+        EXPECT_TRUE(item.datatype == tag && at.x == (last ? 13 : 11) && at.y == (last ? 24 : 22));
         EXPECT_EQ(kx::read_seqnr(item.data, tag), tag == KX_PNT_2D ? 0 : last ? 5 : 7);
         last = true;
       }
@@ -75,8 +74,7 @@ TEST(PointTransforms, ListsByKindAndWithoutMemory) {
     EXPECT_EQ(allocations, tag == KX_PNT_3D ? 1 : 5);
   }
   list_hdr nothing{};
-  EXPECT_EQ(kx_transfpolygon(m, &nothing), nullptr);
-  EXPECT_EQ(kx_transfpolygon(m, nullptr), nullptr);
+  EXPECT_TRUE(!kx_transfpolygon(m, &nothing) && !kx_transfpolygon(m, nullptr));
 }
 
 }  // namespace
