@@ -18,7 +18,7 @@ class distinct_points {
  public:
   explicit distinct_points(std::int64_t most)
       : slots_(std::bit_ceil(static_cast<std::uint64_t>(2 * most + 2))), kept_(static_cast<std::int64_t>(slots_)) {
-    if (kept_) std::memset(static_cast<void *>(kept_.data()), 0, slots_ * sizeof(slot));
+    if (kept_) std::memset(static_cast<void *>(kept_.data()), 0, static_cast<std::size_t>(slots_) * sizeof(slot));
   }
   explicit operator bool() const { return static_cast<bool>(kept_); }
 

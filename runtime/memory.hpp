@@ -45,7 +45,7 @@ class scratch {
 
   explicit operator bool() const { return data_ != nullptr; }
   T *data() const { return data_; }
-  T &operator[](std::ptrdiff_t i) const { return data_[i]; }
+  T &operator[](std::int64_t i) const { return data_[static_cast<std::ptrdiff_t>(i)]; }
 
  private:
   T *data_;

@@ -82,8 +82,7 @@ TEST(ArcPoints, BulgedSegments) {
   for (double bulge : {1.0, -1.0, 0.41421356237309503, -0.3, 1e-6, -2e-3, 0.999, 2.5, -40.0, 1e5}) {
     ASSERT_EQ(kx_arc_bulge_2d(&from, &to, bulge, &c, &start, &sweep), 0);
     ASSERT_EQ(kx_arc_bulge_2d(&to, &from, -bulge, &reversed, &s, &s), 0);
-    EXPECT_NEAR(c.r, reversed.r, 1e-12 * c.r);
-    EXPECT_NEAR(c.x, reversed.x, 1e-12 * c.r);
+    EXPECT_LE(std::hypot(c.r - reversed.r, c.x - reversed.x), 1e-12 * c.r);
     EXPECT_NEAR(std::tan(sweep / 4 * degree), bulge, 1e-9 * std::fabs(bulge * (1 + bulge * bulge)));
     // The arc by its circle and the points by the segment are the same, and begin and end where the segment does.
     point_list arc, segment;
