@@ -36,8 +36,8 @@ class items {
   list_item *head_;
 };
 
-// A header without a head is an empty list, whatever its other fields still say: that is how a definer leaves the header
-// whose items it has taken over.
+// A header without a head is an empty list, whatever its other fields still say: that is how a definer leaves the
+// header whose items it has taken over.
 inline bool empty(const list_hdr *list) { return list == nullptr || list->head == nullptr; }
 
 inline list_item *current(const list_hdr *list) { return empty(list) ? nullptr : list->current; }

@@ -39,8 +39,9 @@ inline std::size_t record_size(std::int32_t tag) {
   }
 }
 
-// Whether an item's data may be read as a record of kind `tag`: it is there, and not known to be a smaller record. Lists
-// are meant to be of one kind, and the list's tag decides; this keeps a mixed list from being read past a record's end.
+// Whether an item's data may be read as a record of kind `tag`: it is there, and not known to be a smaller record.
+// Lists are meant to be of one kind, and the list's tag decides; this keeps a mixed list from being read past a
+// record's end.
 inline bool readable_as(const list_item &item, std::int32_t tag) {
   if (item.data == nullptr) return false;
   if (item.datatype == tag) return true;

@@ -1,10 +1,11 @@
 // Whether edges of a chain of points meet, by a line that moves over them and compares what lies side by side on it.
 //
-// The answer is sure or is not given. "Apart" means that no two edges that are no neighbours in the chain come nearer
-// than what the tolerances of a crossing could bridge: every edge keeps that margin from those next to it on the line,
-// every point from every other, and edges that share a point part clearly. What passes between a point and an edge is
-// at least as near to the point; so nearness shows between what lies side by side, provided that the edge is not
-// steeper than its distance along the line tells. Therefore the line moves a second time, at right angles to the first.
+// The answer is sure or is not given. Two edges that meet are shown by the test itself. "Apart" means that no two edges
+// that are no neighbours in the chain come nearer than what the tolerances of a crossing could bridge: every edge keeps
+// that margin from those next to it on the line, every point from every other, and edges that share a point part
+// clearly. What passes between a point and an edge is at least as near to the point; so nearness shows between what
+// lies side by side, provided that the edge is not steeper than its distance along the line tells. Therefore the line
+// moves a second time, at right angles to the first.
 #pragma once
 
 #include <algorithm>
@@ -38,7 +39,7 @@ class edges_in_order {
   std::int32_t below(std::int32_t n) const { return nodes_[n].previous; }
   std::int32_t above(std::int32_t n) const { return nodes_[n].next; }
 
-  // Where a point belongs: under which node, on which side. False, and the node, when it is too near to an edge.
+  // Where a point belongs: under which node, on which side; and an edge that it is too near to, if any.
   struct place {
     std::int32_t under = none, side = 0, previous = none, next = none, near = none;
   };
@@ -47,10 +48,7 @@ class edges_in_order {
     for (std::int32_t n = root_; n != none; n = nodes_[n].child[at.side]) {
       const edge &e = nodes_[n].held;
       const double side = cross(e.along, p - e.from);
-      if (!(std::fabs(side) > e.reach)) {
-        at.near = n;
-        return at;
-      }
+      if (!(std::fabs(side) > e.reach)) at.near = n;
       at.under = n;
       at.side = side > 0.0;
       (side > 0.0 ? at.previous : at.next) = n;
@@ -161,13 +159,19 @@ class edge_sweep {
         margin_(margin),
         line_(edges) {}
 
-  static bool before(vec2 p, vec2 q) { return p.x < q.x || (p.x == q.x && p.y < q.y); }
+  // Whether the line comes to one point before the other; points in the same place follow each other by their numbers,
+  // so that every edge begins once and ends once.
+  static bool before(const event &p, const event &q) {
+    if (p.at.x != q.at.x) return p.at.x < q.at.x;
+    return p.at.y != q.at.y ? p.at.y < q.at.y : p.point < q.point;
+  }
+  event at(std::int32_t i) const { return {points_[i], closed_ && i == edges_ ? 0 : i}; }
 
   // Sorts the points. False when two of them are too near each other, or too many side by side to tell.
   bool arrange() {
     count_ = edges_ + (closed_ ? 0 : 1);
-    for (std::int32_t i = 0; i < count_; ++i) events_[i] = {points_[i], i};
-    std::sort(events_, events_ + count_, [](const event &p, const event &q) { return before(p.at, q.at); });
+    for (std::int32_t i = 0; i < count_; ++i) events_[i] = at(i);
+    std::sort(events_, events_ + count_, before);
     std::int64_t patience = 16 * std::int64_t{count_};
     for (std::int32_t i = 0; i < count_; ++i) {
       for (std::int32_t k = i + 1; k < count_ && events_[k].at.x - events_[i].at.x <= 8.0 * margin_; ++k) {
@@ -182,7 +186,7 @@ class edge_sweep {
   }
 
   edges_in_order::edge edge(std::int32_t i) const {
-    const bool forwards = before(points_[i], points_[i + 1]);
+    const bool forwards = before(at(i), at(i + 1));
     const vec2 from = points_[forwards ? i : i + 1], along = points_[forwards ? i + 1 : i] - from;
     return {from, along, 3.0 * margin_ * length(along), i};
   }
@@ -193,13 +197,15 @@ class edge_sweep {
     return (p > a.reach && q > a.reach) || (p < -a.reach && q < -a.reach);
   }
 
+  // Whether two edges side by side meet. They are to be clearly apart, or nothing is sure any more; but the line moves
+  // on, since it may still find two that meet.
   template <class Amiss>
-  bool pair(std::int32_t lower, std::int32_t upper, Amiss &amiss) {
-    if (lower == none || upper == none) return true;
+  bool meet(std::int32_t lower, std::int32_t upper, Amiss &amiss) {
+    if (lower == none || upper == none) return false;
     const edges_in_order::edge &a = line_[lower], &b = line_[upper];
-    if (neighbours(a.number, b.number) || beside(a, b) || beside(b, a)) return true;
-    result_ = amiss(a.number, b.number) ? outcome::met : outcome::undecided;
-    return false;
+    if (neighbours(a.number, b.number) || beside(a, b) || beside(b, a)) return false;
+    sure_ = false;
+    return amiss(a.number, b.number);
   }
 
   // Edges that share a point part clearly: the end of the shorter one keeps away from the longer one.
@@ -211,56 +217,47 @@ class edge_sweep {
   template <class Amiss>
   outcome pass(Amiss &amiss) {
     if (!line_) return outcome::no_memory;
-    if (!arrange()) return outcome::undecided;
+    sure_ = arrange();
     for (std::int32_t n = 0; n < count_; ++n) {
-      if (!advance(events_[n], amiss)) return result_;
+      if (finds(events_[n], amiss)) return outcome::met;
     }
-    return outcome::apart;
+    return sure_ ? outcome::apart : outcome::undecided;
   }
 
-  // Over one point: the edges that end at it give way to those that begin.
+  // Over one point, where edges that end give way to those that begin. True when two are found that meet.
   template <class Amiss>
-  bool advance(const event &e, Amiss &amiss) {
+  bool finds(const event &e, Amiss &amiss) {
+    std::int32_t ending[2], beginning[2], ends = 0, begins = 0;
     const std::int32_t previous = e.point > 0 ? e.point - 1 : closed_ ? edges_ - 1 : none;
     const std::int32_t next = e.point < edges_ ? e.point : none;
-    result_ = outcome::undecided;
-    if (previous != none && next != none && !parts_clearly(e.at, points_[previous], points_[next + 1])) return false;
-    const bool previous_ends = previous != none && before(points_[previous], e.at);
-    const bool next_ends = next != none && before(points_[next + 1], e.at);
-    const std::int32_t ends = int{previous_ends} + int{next_ends};
-    const std::int32_t begins = int{previous != none} + int{next != none} - ends;
+    if (previous != none) (before(at(previous), e) ? ending[ends++] : beginning[begins++]) = previous;
+    if (next != none) (before(at(next + 1), e) ? ending[ends++] : beginning[begins++]) = next;
+    if (ends + begins == 2) sure_ = sure_ && parts_clearly(e.at, points_[previous], points_[next + 1]);
     if (ends == 1 && begins == 1) {
-      const std::int32_t old = previous_ends ? previous : next, fresh = previous_ends ? next : previous;
-      const std::int32_t n = node_of_[fresh] = node_of_[old];
-      line_[n] = edge(fresh);
-      return pair(line_.below(n), n, amiss) && pair(n, line_.above(n), amiss);
+      const std::int32_t n = node_of_[beginning[0]] = node_of_[ending[0]];
+      line_[n] = edge(beginning[0]);
+      return meet(line_.below(n), n, amiss) || meet(n, line_.above(n), amiss);
     }
-    if (ends > 0) {
-      std::int32_t lower = node_of_[previous_ends ? previous : next], upper = lower;
-      if (ends == 2) {
-        upper = node_of_[next];
-        if (line_.above(upper) == lower) std::swap(lower, upper);
-        if (line_.above(lower) != upper) return false;
+    for (std::int32_t k = 0; k < ends; ++k) {
+      const std::int32_t n = node_of_[ending[k]], under = line_.below(n), over = line_.above(n);
+      line_.remove(n);
+      if (meet(under, over, amiss)) return true;
+    }
+    if (begins == 0) return false;
+    const edges_in_order::place spot = line_.find(e.at);
+    if (spot.near != none) {
+      sure_ = false;
+      const std::int32_t i = line_[spot.near].number;
+      for (std::int32_t k = 0; k < begins; ++k) {
+        if (!neighbours(i, beginning[k]) && amiss(i, beginning[k])) return true;
       }
-      const std::int32_t under = line_.below(lower), over = line_.above(upper);
-      line_.remove(lower);
-      if (ends == 2) line_.remove(upper);
-      return pair(under, over, amiss);
     }
-    const edges_in_order::place at = line_.find(e.at);
-    if (at.near != none) {
-      const std::int32_t i = line_[at.near].number;
-      for (const std::int32_t k : {previous, next}) {
-        if (k != none && !neighbours(i, k) && amiss(i, k)) result_ = outcome::met;
-      }
-      return false;
-    }
-    std::int32_t first = previous == none ? next : previous, second = begins == 2 ? next : none;
-    if (second != none && cross(edge(first).along, edge(second).along) < 0.0) std::swap(first, second);
-    const std::int32_t lower = node_of_[first] = line_.insert(at, edge(first));
+    if (begins == 2 && cross(edge(beginning[0]).along, edge(beginning[1]).along) < 0.0)
+      std::swap(beginning[0], beginning[1]);
+    const std::int32_t lower = node_of_[beginning[0]] = line_.insert(spot, edge(beginning[0]));
     std::int32_t upper = lower;
-    if (second != none) upper = node_of_[second] = line_.insert(line_.directly_above(lower), edge(second));
-    return pair(line_.below(lower), lower, amiss) && pair(upper, line_.above(upper), amiss);
+    if (begins == 2) upper = node_of_[beginning[1]] = line_.insert(line_.directly_above(lower), edge(beginning[1]));
+    return meet(line_.below(lower), lower, amiss) || meet(upper, line_.above(upper), amiss);
   }
 
   const vec2 *points_;
@@ -271,7 +268,7 @@ class edge_sweep {
   double margin_;
   edges_in_order line_;
   std::int32_t count_ = 0;
-  outcome result_ = outcome::undecided;
+  bool sure_ = true;
 };
 
 }  // namespace kx

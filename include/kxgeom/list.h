@@ -2,8 +2,9 @@
  *
  * A list owns its items; who owns the data that hangs from them is told per function. Positions are numbers: as a place
  * to add 0 is before the head, 2 after and 3 before the current item, and everything else after the tail; as an item to
- * take 0 is the head, 1 the tail, 2 the item after and 3 the item before the current one, and everything else the current
- * one. A walk over all items: ll_set_list_currpntr(list, 0), then ll_set_list_currpntr(list, 2) while that returns 2.
+ * take 0 is the head, 1 the tail, 2 the item after and 3 the item before the current one, and everything else the
+ * current one. A walk over all items: ll_set_list_currpntr(list, 0), then ll_set_list_currpntr(list, 2) while that
+ * returns 2.
  */
 #ifndef KXGEOM_LIST_H
 #define KXGEOM_LIST_H
@@ -105,8 +106,8 @@ KX_API int32_t KX_CALL ll_add_list_item(list_hdr *list, int32_t where, void *dat
 KX_API void *KX_CALL ll_delete_list_item(list_hdr *list, int32_t which, int32_t new_current);
 
 /**
- * Takes an item out of the list and frees its data. The tag of the current item decides whether this list may be emptied
- * so: only points (50, 51, 62, 63), numbers (81, 82) and strings (101) are.
+ * Takes an item out of the list and frees its data. The tag of the current item decides whether this list may be
+ * emptied so: only points (50, 51, 62, 63), numbers (81, 82) and strings (101) are.
  * @param[in,out] list  the list
  * @param[in] which  the item, as for ll_delete_list_item
  * @param[in] new_current  where the position goes, as for ll_delete_list_item
@@ -117,9 +118,10 @@ KX_API int32_t KX_CALL ll_delete_item(list_hdr *list, int32_t which, int32_t new
 /**
  * Moves the current position.
  * @param[in,out] list  the list
- * @param[in] move  0 to the head, 1 to the tail, 2 to the next item, 3 to the previous one; above 3 (and below 0) it stays
- * @return where it ended: 0 head (also when 2 wrapped round), 1 tail (also when 3 wrapped round), 2 or 3 a step was made,
- *   `move` when it stays; 1 for a null or empty list
+ * @param[in] move  0 to the head, 1 to the tail, 2 to the next item, 3 to the previous one; above 3 (and below 0) it
+ * stays
+ * @return where it ended: 0 head (also when 2 wrapped round), 1 tail (also when 3 wrapped round), 2 or 3 a step was
+ * made, `move` when it stays; 1 for a null or empty list
  */
 KX_API int32_t KX_CALL ll_set_list_currpntr(list_hdr *list, int32_t move);
 

@@ -11,9 +11,9 @@
  *   whatever lies on the ray. On the boundary is what kx_pointonline says of some edge, the closing edge included.
  * - An edge with a NaN coordinate is as good as not there. A point that is not finite lies nowhere.
  * - Functions that collect points append them to the caller's list as poly_2d, numbered on from the last one's seqnr
- *   (from 0 in an empty list); the last one appended becomes current. The list is empty or begins and ends with poly_2d;
- *   otherwise nothing is done. When the memory is exhausted, the list stays as it was and the result is 0, after the
- *   message.
+ *   (from 0 in an empty list); the last one appended becomes current. The list is empty or begins and ends with
+ * poly_2d; otherwise nothing is done. When the memory is exhausted, the list stays as it was and the result is 0, after
+ * the message.
  */
 #ifndef KXGEOM_POLYGON_H
 #define KXGEOM_POLYGON_H
@@ -28,8 +28,8 @@ extern "C" {
 /* ---- point in polygon ---- */
 
 /**
- * Tells whether a point lies inside a polygon given as an array. Linear in the number of vertices, without memory of its
- * own. Reversing the polygon, starting it at another vertex or repeating the first point at the end gives the same
+ * Tells whether a point lies inside a polygon given as an array. Linear in the number of vertices, without memory of
+ * its own. Reversing the polygon, starting it at another vertex or repeating the first point at the end gives the same
  * answer.
  * @param[in] p  the point; on the boundary the answer may be either
  * @param[in] polygon  the vertices
@@ -110,8 +110,7 @@ KX_API int32_t KX_CALL kx_pnts_onpolyl(const list_hdr *points, const list_hdr *p
  * @param[in,out] found  list of poly_2d, or empty; see above
  * @return 1 when there is at least one, else 0
  */
-KX_API int32_t KX_CALL kx_pnts_in_line(const list_hdr *points, const line_2d *segment, int32_t *count,
-                                       list_hdr *found);
+KX_API int32_t KX_CALL kx_pnts_in_line(const list_hdr *points, const line_2d *segment, int32_t *count, list_hdr *found);
 
 /* ---- rectangles and circles ---- */
 
@@ -206,7 +205,8 @@ KX_API int32_t KX_CALL kx_poly_xy_maxmin(const list_hdr *polygon, rect_2d *exten
  * first.
  * @param[in] pnts  the points; those with a NaN are passed over
  * @param[in] count  how many they are
- * @param[out] leftmost,rightmost,lowest,highest  the points; a null one is passed over; untouched unless the result is 0
+ * @param[out] leftmost,rightmost,lowest,highest  the points; a null one is passed over; untouched unless the result is
+ * 0
  * @return 0; 42, after the message "BADPNTS", when there are no points
  */
 KX_API int32_t KX_CALL kx_extremepnts(const pnt_2d *pnts, int32_t count, pnt_2d *leftmost, pnt_2d *rightmost,
@@ -314,18 +314,18 @@ KX_API int32_t KX_CALL kx_same_poly(const list_hdr *first, const list_hdr *secon
 KX_API int32_t KX_CALL kx_intersect_poly(const list_hdr *first, const list_hdr *second, list_hdr *pnts);
 
 /**
- * Tells whether one polygon lies within another: no point of the outer one is strictly inside the inner one, every point
- * of the inner one is inside or on the outer one, and of the points in which the boundaries meet there is at most one,
- * or each coincides with a corner of either polygon.
+ * Tells whether one polygon lies within another: no point of the outer one is strictly inside the inner one, every
+ * point of the inner one is inside or on the outer one, and of the points in which the boundaries meet there is at most
+ * one, or each coincides with a corner of either polygon.
  * @param[in] inner,outer  lists of points
  * @return 1 or 0; 0 for no points and after the memory message
  */
 KX_API int32_t KX_CALL kx_inside_poly(const list_hdr *inner, const list_hdr *outer);
 
 /**
- * Tells whether two polygons do not overlap: no point of either is strictly inside the other, and either no point of the
- * first is on the boundary of the second, or of the points in which the boundaries meet there is at most one, or each
- * coincides with a corner of either polygon.
+ * Tells whether two polygons do not overlap: no point of either is strictly inside the other, and either no point of
+ * the first is on the boundary of the second, or of the points in which the boundaries meet there is at most one, or
+ * each coincides with a corner of either polygon.
  * @param[in] first,second  lists of points
  * @return 1 or 0; 0 for no points and after the memory message
  */

@@ -76,8 +76,8 @@ KX_API void KX_CALL kx_display_msg(const char *code, int32_t number, const char 
 
 /**
  * Fetches a numbered message from the message file (found as by kx_display_msg): "(number): " and the rest of the first
- * line whose key converts to the number, the line's end included. Lines count in pieces of 127 characters. A key that is
- * no number counts as 0, so message 0, which stands in for every missing one, belongs before all such lines.
+ * line whose key converts to the number, the line's end included. Lines count in pieces of 127 characters. A key that
+ * is no number counts as 0, so message 0, which stands in for every missing one, belongs before all such lines.
  * @param[in] number  the message wanted
  * @param[out] buffer  at least 144 characters; "(0): " and the text of message 0 when the number is missing,
  *   "(number) Cannot Find Message" when that is missing too, "(number) Cannot Find Message File" without a file
@@ -384,8 +384,8 @@ KX_API double KX_CALL kx_arccosecant(double x);
 
 /* ---- hyperbolic ---- */
 
-/* The inverse functions give their result times 57.2957795131, as the inverse trigonometric functions do; hosts count on
- * it. Nothing checks for overflow: beyond about 709 the quotients of two infinities are NaN. */
+/* The inverse functions give their result times 57.2957795131, as the inverse trigonometric functions do; hosts count
+ * on it. Nothing checks for overflow: beyond about 709 the quotients of two infinities are NaN. */
 
 /**
  * Gives the hyperbolic sine.

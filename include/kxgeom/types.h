@@ -200,9 +200,9 @@ enum {
 
 /* ---- curves ---- */
 
-/* What a maker notes beside each sample: the parameter, the unit tangent, the unit second derivative and the normal (the
-   tangent turned by a quarter counter-clockwise). In the vectors i, j hold the components, length is 1 (0 where the
-   derivative vanishes) and direction is 0: the makers compute no angles. */
+/* What a maker notes beside each sample: the parameter, the unit tangent, the unit second derivative and the normal
+   (the tangent turned by a quarter counter-clockwise). In the vectors i, j hold the components, length is 1 (0 where
+   the derivative vanishes) and direction is 0: the makers compute no angles. */
 typedef struct curve_stats_2d {
   double t;
   vector_2d tangent, second, normal;
@@ -217,16 +217,16 @@ typedef struct curve_stats_3d {
 
 /* Any free-form curve. */
 typedef struct curve {
-  int32_t curve_type;     /* 83 to 98, 0 when undefined */
+  int32_t curve_type; /* 83 to 98, 0 when undefined */
   int32_t degree;
-  int32_t span_steps;     /* parameter steps per knot span of the non-uniform makers */
-  double step;            /* parameter increment of the uniform makers */
-  double basis[16];       /* 4 by 4, row-major */
-  list_hdr *weights;      /* rnumber */
-  list_hdr *knots;        /* rnumber */
-  list_hdr *ctrl_pnts;    /* pnt_2d, pnt_3d, poly_2d or poly_3d */
-  list_hdr *curve_pnts;   /* samples: poly_2d or poly_3d */
-  list_hdr *curve_stats;  /* one curve_stats_2d or curve_stats_3d per sample */
+  int32_t span_steps;    /* parameter steps per knot span of the non-uniform makers */
+  double step;           /* parameter increment of the uniform makers */
+  double basis[16];      /* 4 by 4, row-major */
+  list_hdr *weights;     /* rnumber */
+  list_hdr *knots;       /* rnumber */
+  list_hdr *ctrl_pnts;   /* pnt_2d, pnt_3d, poly_2d or poly_3d */
+  list_hdr *curve_pnts;  /* samples: poly_2d or poly_3d */
+  list_hdr *curve_stats; /* one curve_stats_2d or curve_stats_3d per sample */
 } curve;
 
 /* Eight words of a host's own (0, 0, 0, 1, 1, 0, 1, 0 at creation) and two blocks that kx_purge_curv frees. */
