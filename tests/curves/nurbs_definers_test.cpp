@@ -66,11 +66,11 @@ TEST(nurbs_definers, dispatch_by_datatype) {
 
 TEST(nurbs_definers, take_lists_of_the_curve_itself) {
   const owner c{nurbs(KX_POLY_2D, 4, 3, std::vector<double>(6))};
-  const list_item *knots = c->knots->head;
+  const list_item *knots = c->knots->head, *weights = c->weights->head;
   EXPECT_EQ(kx_def_nurb_curve2d(c->ctrl_pnts, c->weights, c->knots, 3, 1, c), 0);  // knots and weights change places
   EXPECT_TRUE(c->weights->head == knots && c->weights->count == 6 && c->knots->count == 4 && c->ctrl_pnts->count == 4);
-  EXPECT_EQ(kx_def_nubspl_curve2d(c->weights, c->weights, 1, 1, c), 0);  // given twice
-  EXPECT_TRUE(c->ctrl_pnts->head == knots && kx::empty(c->knots));
+  EXPECT_EQ(kx_def_nubspl_curve2d(c->knots, c->knots, 1, 1, c), 0);  // given twice; a B-spline has no weights
+  EXPECT_TRUE(c->ctrl_pnts->head == weights && kx::empty(c->knots) && kx::empty(c->weights));
   EXPECT_TRUE(kx_def_nubspl_curve2d(nullptr, nullptr, 1, 1, c) == 0 && kx::empty(c->ctrl_pnts));
 }
 
