@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int million = 1000000;
+constexpr int count = 16384, rounds = 64;  // enough pairs that no processor learns them, few enough for its cache
 constexpr double tolerance = 1e-7;
 
 struct pair {
@@ -60,7 +60,7 @@ const std::vector<pair> &pairs() {
       const double x1 = next(), y1 = next(), x2 = next(), y2 = next();
       return line_2d{x1, y1, x2, y2};
     };
-    while (v.size() < million) {
+    while (v.size() < count) {
       const line_2d a = segment(), b = segment();
       if (clear_of_tolerances({a, b})) v.push_back({a, b});
     }
@@ -72,10 +72,10 @@ const std::vector<pair> &pairs() {
 // intersect(i, point) answers whether pair i crosses, and where.
 template <class Intersect>
 void add(const std::string &what, Intersect intersect) {
-  bench::add({.name = "segments/1M/" + what,
-              .items = million,
+  bench::add({.name = "segments/16k/" + what,
+              .items = std::int64_t{count} * rounds,
               .check = [intersect]() -> std::string {
-                for (int i = 0; i < million; ++i) {
+                for (int i = 0; i < count; ++i) {
                   const pair &p = pairs()[static_cast<std::size_t>(i)];
                   pnt_2d got{}, want{};
                   const bool right = intersect(i, &got) == plain(&p.a, &p.b, &want) &&
@@ -88,9 +88,11 @@ void add(const std::string &what, Intersect intersect) {
                   [intersect] {
                     std::int32_t crossings = 0;
                     pnt_2d point{};
-                    for (int i = 0; i < million; ++i) {
-                      crossings += intersect(i, &point);
-                      bench::use(&point);
+                    for (int round = 0; round < rounds; ++round) {
+                      for (int i = 0; i < count; ++i) {
+                        crossings += intersect(i, &point);
+                        bench::use(&point);
+                      }
                     }
                     bench::use(crossings);
                   }});

@@ -23,8 +23,10 @@ class plane_points {
       settle();
     }
     vec2 operator*() const {
+      const char *x = static_cast<const char *>(item_->data) + offset_;
       vec2 p;
-      std::memcpy(&p, static_cast<const char *>(item_->data) + offset_, sizeof p);
+      std::memcpy(&p.x, x, sizeof p.x);
+      std::memcpy(&p.y, x + sizeof p.x, sizeof p.y);
       return p;
     }
     bool operator!=(const iterator &other) const { return item_ != other.item_; }

@@ -54,7 +54,7 @@ verdict examine(const vec2 *points, std::int32_t edges, const char *location) {
   const auto amiss = [points](std::int32_t i, std::int32_t k) { return meet_amiss(points + i, points + k); };
   const kx::edge_tree tree(points, edges, location);
   if (!tree) return verdict::no_memory;
-  auto found = tree.pairs(64 + 20 * std::int64_t{edges}, amiss);
+  auto found = tree.pairs(20000 + 2 * std::int64_t{edges}, amiss);
   if (found == kx::edge_tree::outcome::too_much) {
     switch (kx::edge_sweep::run(points, edges, amiss)) {
       case kx::edge_sweep::outcome::apart: return verdict::sound;

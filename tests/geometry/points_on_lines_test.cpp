@@ -47,12 +47,12 @@ TEST(PointsOnLines, AreRecognisedWithinTheTolerance) {
     EXPECT_EQ(kx_lineloc(&upright, &up), row[3]) << row_number;
   }
   // A slanted segment far away: the distance counts, not the product, and the origin costs no digits.
-  const line_2d far{1e6, 1e6, 1e6 + 3000, 1e6 + 4000}, spot{1, 1, 1, 1};
+  const line_2d far{1e6, 1e6, 1e6 + 3000, 1e6 + 4000}, spot{1, 1, 1, 1}, brief{1, 1, 1, 1 + 9e-8};
   const pnt_2d on{1e6 + 1500, 1e6 + 2000}, off{1e6 + 1500 - 8e-7, 1e6 + 2000 + 6e-7}, at{1, 1 + 9e-8}, by{1, 1 + 2e-7};
   EXPECT_EQ(kx_pointonline(&on, &far), 1);
   EXPECT_EQ(kx_pointonline(&off, &far), 0);
   EXPECT_EQ(kx_lineloc(&far, &off), 1);
-  EXPECT_TRUE(kx_pointonline(&at, &spot) && !kx_pointonline(&by, &spot) && kx_lineloc(&spot, &on) == 0);
+  EXPECT_TRUE(kx_pointonline(&at, &spot) && !kx_pointonline(&by, &spot) && kx_lineloc(&brief, &on) == 0);
   EXPECT_TRUE(!kx_pointonline(nullptr, &far) && !kx_pointonline(&on, nullptr) && !kx_lineloc(nullptr, &on));
 }
 
