@@ -1,8 +1,17 @@
 // Scalar helpers: integers, conversions, the quadratic equation.
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 #include "kxgeom/runtime.h"
 #include "tolerance.hpp"
+
+namespace {
+
+// A positive number halved as often as it can be.
+int32_t odd_part(int32_t n) { return n >> std::countr_zero(static_cast<std::uint32_t>(n)); }
+
+}  // namespace
 
 int32_t KX_CALL kx_imax(int32_t i, int32_t j, int32_t k) {
   const int32_t largest = i >= j ? i : j;
@@ -17,22 +26,10 @@ int32_t KX_CALL kx_imin(int32_t i, int32_t j, int32_t k) {
 int32_t KX_CALL kx_gcd(int32_t a, int32_t b) {
   if (a < 0 || b < 0) return 1;
   if (a == 0 || b == 0) return a | b;
-  int twos = 0;
-  for (; ((a | b) & 1) == 0; ++twos) {
-    a >>= 1;
-    b >>= 1;
-  }
-  while (a != b) {
-    if ((a & 1) == 0) {
-      a >>= 1;
-    } else if ((b & 1) == 0) {
-      b >>= 1;
-    } else if (a > b) {
-      a -= b;
-    } else {
-      b -= a;
-    }
-  }
+  const int twos = std::countr_zero(static_cast<std::uint32_t>(a | b));
+  a = odd_part(a);
+  b = odd_part(b);
+  while (a != b) (a > b ? a : b) = odd_part(a > b ? a - b : b - a);
   return a << twos;
 }
 
