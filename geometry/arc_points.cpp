@@ -52,6 +52,12 @@ int32_t make_bulge_arc(const pnt_2d &from, const pnt_2d &to, double bulge, bulge
 
 }  // namespace
 
+double KX_CALL kx_arclength(const arc_2d *arc) {
+  constexpr int32_t degrees = 1, no_angle = 2;
+  if (!arc || arc->mode == no_angle) return 0.0;
+  return std::fabs(arc->r * (arc->mode == degrees ? arc->value_1 * kx::radians_per_degree : arc->value_1));
+}
+
 int32_t KX_CALL kx_arc_pntcount(double radius, double sweep_deg, double tol) {
   if (!is_radius(radius) || !std::isfinite(sweep_deg)) return 0;
   return kx::chord_count(radius, kx::whole_turn_at_most(sweep_deg), tol) + 1;

@@ -1114,6 +1114,13 @@ KX_API int32_t KX_CALL kx_projectednormal_3d(const pnt_3d *u, const pnt_3d *onto
  *   whole turn, and its last point then equals its first bit for bit. Multiples of 90 degrees are met exactly. */
 
 /**
+ * The length of an arc: its radius times the angle it spans, never negative.
+ * @param[in] arc  the arc; value_1 is the angle, in degrees for mode 1, in radians for every other mode
+ * @return the length; 0.0 for mode 2, whose values are no angles, and for null
+ */
+KX_API double KX_CALL kx_arclength(const arc_2d *arc);
+
+/**
  * How many points, one more than chords, an arc needs so that no chord leaves it by more than a tolerance.
  * The count is the least possible: with one chord fewer, of at most 120 degrees each, the tolerance is exceeded.
  * @param[in] radius  radius of the arc

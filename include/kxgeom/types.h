@@ -121,8 +121,8 @@ typedef struct ellipse_2d {
   double x, y, a, b, value_1, value_2;
 } ellipse_2d;
 
-/* Centre, radius and two values read by mode: mode 1 gives value_1 in degrees, mode 2 has no arc length, every other
-   mode takes the values as they are. */
+/* Centre, radius and two values read by mode. value_1 is the angle that the arc spans: in degrees for mode 1, in
+   radians for every other mode but 2, whose values are no angles. */
 typedef struct arc_2d {
   double x, y, r;
   int32_t mode;

@@ -439,8 +439,8 @@ void point_lists() {
 void geometry() {
   batches(kx_lineequation, kx_lineeq_ile, kx_lineeq_ple, kx_convlineeq, kx_normalizeline, kx_normal_ile, kx_normal_ple,
           kx_slope, kx_abscissa, kx_abscissa_ile, kx_abscissa_ple, kx_ordinate, kx_ordinate_ile, kx_ordinate_ple,
-          kx_distance, kx_distance_3d, kx_distpntln_ile, kx_distpntln_ls, kx_distpntline, kx_midpoint, kx_pointdvln,
-          kx_point_on_line, kx_pointonline, kx_lineloc, kx_orient_line, kx_angle_diff, kx_angle_lines_cos,
+          kx_distance, kx_distance_3d, kx_distpntln_ile, kx_distpntln_ls, kx_distpntline, kx_midpoint, kx_arclength,
+          kx_pointdvln, kx_point_on_line, kx_pointonline, kx_lineloc, kx_orient_line, kx_angle_diff, kx_angle_lines_cos,
           kx_parallellines, kx_perpendicular, kx_linepntperpend, kx_linepntparallel, kx_linebisector,
           kx_bisector_two_lines, kx_intersect, kx_intersect_ile, kx_intersect_ple, kx_intersect_pil, kx_intersect_ls,
           kx_intersect_ils, kx_intersect_pls, kx_intersectls, kx_intersectf, kx_axisintersect, kx_axisintersect_ls,

@@ -157,4 +157,15 @@ TEST(ArcPoints, AllOrNothingWhenMemoryEndsAndNumbersContinue) {
   }
 }
 
+// A half circle in degrees and in radians, backwards, and the modes' other readings.
+TEST(ArcPoints, Length) {
+  const double turn = 3.1415926536;  // the library's
+  const arc_2d half{1, 2, 3, 1, 180, 7}, radians{1, 2, 3, 0, -turn, 7}, other{1, 2, 3, 9, 2, 7}, none{1, 2, 3, 2, 2, 7};
+  EXPECT_NEAR(kx_arclength(&half), 3 * turn, 1e-9);
+  EXPECT_EQ(kx_arclength(&radians), 3 * turn);
+  EXPECT_EQ(kx_arclength(&other), 6);
+  EXPECT_EQ(kx_arclength(&none), 0);
+  EXPECT_EQ(kx_arclength(nullptr), 0);
+}
+
 }  // namespace
