@@ -15,7 +15,7 @@ namespace kx {
 
 // An upright rectangle; empty while its sides are crossed.
 struct box {
-  double x1 = INFINITY, y1 = INFINITY, x2 = -INFINITY, y2 = -INFINITY;
+  double x1 = HUGE_VAL, y1 = HUGE_VAL, x2 = -HUGE_VAL, y2 = -HUGE_VAL;
 
   void hold(vec2 p) {
     x1 = p.x < x1 ? p.x : x1;

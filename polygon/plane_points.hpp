@@ -38,10 +38,12 @@ class plane_points {
 
    private:
     void settle() {
-      while (item_ && (item_->datatype != tag_ || !item_->data)) {
-        if (readable_as(*item_, tag_)) break;
-        item_ = item_->next;
-      }
+      if (item_ && (item_->datatype != tag_ || !item_->data)) [[unlikely]]
+        item_ = first_readable(item_, tag_);
+    }
+    [[gnu::cold]] static const list_item *first_readable(const list_item *item, std::int32_t tag) {
+      while (item && !readable_as(*item, tag)) item = item->next;
+      return item;
     }
 
     const list_item *item_;

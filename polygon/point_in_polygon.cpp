@@ -160,6 +160,8 @@ class band {
  public:
   explicit band(double own) : low_(own - 2.0 * kx::allowance(own)), high_(own + 2.0 * kx::allowance(own)) {}
   int side(double c) const { return int{c > high_} | int{c < low_} << 1; }
+  bool above(double c, double d) const { return c > high_ && d > high_; }
+  bool below(double c, double d) const { return c < low_ && d < low_; }
 
  private:
   double low_, high_;
@@ -173,10 +175,9 @@ class stand_point {
   int side(kx::vec2 q) const { return along_.side(q.y); }
 
   void meet(kx::vec2 a, kx::vec2 b, standing &s) const {
-    const int beside = across_.side(a.x) & across_.side(b.x);
-    if (beside == 2) return;
+    if (across_.below(a.x, b.x)) return;
     s.odd ^= kx::ray_edge(a, b).crossed_from(p_);
-    if (beside == 0) s.on = s.on || kx::point_on_segment(a, b, p_);
+    if (!across_.above(a.x, b.x)) s.on = s.on || kx::point_on_segment(a, b, p_);
   }
 
  private:
