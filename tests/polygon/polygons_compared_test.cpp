@@ -6,6 +6,7 @@
 #include "kxgeom/geometry.h"
 #include "kxgeom/polygon.h"
 #include "kxgeom/runtime.h"
+#include "polygon/distinct_points.hpp"
 #include "polygon/polygons.hpp"
 #include "support/faults.hpp"
 
@@ -67,6 +68,18 @@ TEST(PolygonsCompared, AsPairByPair) {
     met += want.size() > 1;
   }
   EXPECT_TRUE(inside > 50 && outside > 500 && met > 1000) << inside << " " << outside << " " << met;
+}
+
+TEST(PolygonsCompared, DistinctPointsAreThoseThatCoincideWithNoneBefore) {
+  randomness r(11);
+  kx::distinct_points distinct(3000);
+  polygon kept;
+  for (int n = 0; n < 3000; ++n) {
+    const pnt_2d p{r.about(6) + r.whole(9) * 0.13e-7, r.about(6)};
+    const bool want = std::none_of(kept.begin(), kept.end(), [&](const pnt_2d &q) { return kx_samepnt(&q, &p); });
+    if (want) kept.push_back(p);
+    ASSERT_EQ(distinct.add({p.x, p.y}), want);
+  }
 }
 
 TEST(PolygonsCompared, InsideAndOutside) {
