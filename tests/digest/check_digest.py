@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""check_digest.py names NAMES.def DIGEST.cpp    each name is either called in DIGEST.cpp or left out in its head comment
+"""check_digest.py names NAMES.def SOURCE...     each name is either called in a source or left out in its head comment
 check_digest.py compare NATIVE COMMAND...     the native program and the other build's print the same lines (77: no native)
 """
 import pathlib
@@ -8,15 +8,16 @@ import subprocess
 import sys
 
 
-def names(listed, source):
+def names(listed, *sources):
     sys.dont_write_bytecode = True
     sys.path.insert(0, str(pathlib.Path(listed).parent.parent / "scripts"))
     from exports import read_names
 
     functions, aliases = read_names(listed)
     wanted = set(functions) | {alias for alias in aliases if not re.search("vb[12]?$", alias)}  # those are not declared
-    head, code = re.fullmatch(r"((?://[^\n]*\n)+)(.*)", pathlib.Path(source).read_text(), re.S).groups()
-    left_out, called = (set(re.findall(r"\b(?:kx|ll)_[a-z]\w*", text)) for text in (head, re.sub("//.*", "", code)))
+    texts = [re.fullmatch(r"((?://[^\n]*\n)*)(.*)", pathlib.Path(source).read_text(), re.S).groups() for source in sources]
+    heads, codes = ("\n".join(parts) for parts in zip(*texts))
+    left_out, called = (set(re.findall(r"\b(?:kx|ll)_[a-z]\w*", text)) for text in (heads, re.sub("//.*", "", codes)))
     faults = [f"{name}: neither called nor left out" for name in sorted(wanted - left_out - called)]
     faults += [f"{name}: called, yet left out" for name in sorted(left_out & called)]
     faults += [f"{name}: left out, but not in the list" for name in sorted(left_out - wanted)]

@@ -1,0 +1,108 @@
+#include <initializer_list>
+
+#include "batch.hpp"
+
+namespace digest {
+namespace {
+
+void hash_curve(const curve *c) {
+  hash(std::int32_t{c != nullptr});
+  if (c == nullptr) return;
+  for (const std::int32_t value : {c->curve_type, c->degree, c->span_steps}) hash(value);
+  hash(c->step);
+  double basis[16];
+  std::memcpy(basis, c->basis, sizeof basis);
+  for (const double value : basis) hash(value);
+  for (const list_hdr *list : {c->weights, c->knots, c->ctrl_pnts, c->curve_pnts, c->curve_stats}) hash_list(list);
+}
+
+// Hashes a curve and its copy and frees both; control points that are no polygon's need a second try.
+void done(curve *c) {
+  hash_curve(c);
+  curve *copy = kx_copy_curve(c);
+  hash_curve(copy);
+  if (copy) hash(kx_clear_curve(copy, below(2)));
+  for (curve *each : {c, copy})
+    if (kx_purge_curve(each) == 9) hash(kx_purge_curve(each));
+}
+
+}  // namespace
+
+void uniform_curves() {
+  static curve *(KX_CALL *const from_list[])(list_hdr *) = {kx_def_ubspl_curve,     kx_def_ubezier_curve,
+                                                            kx_def_ucatrom_curve,   kx_def_ubspl_curve3d,
+                                                            kx_def_ubezier_curve3d, kx_def_ucatrom_curve3d};
+  static std::int32_t(KX_CALL *const in_plane[])(list_hdr *, curve *) = {kx_def_ubspl_curve2d, kx_def_ubezier_curve2d,
+                                                                         kx_def_ucatrom_curve2d};
+  for (int round = 0; round < 96; ++round) {
+    wild = round % 8 == 7;
+    const std::int32_t tag = tags[round % 4];
+    list_hdr *ctrl[3];
+    for (list_hdr *&list : ctrl) list = points(3 + below(10), tag);
+    curve *c[3] = {kx_def_ucurve(ctrl[0], 83 + below(6)), from_list[below(6)](ctrl[1]), kx_create_curve()};
+    hash(in_plane[below(3)](ctrl[2], c[2]));
+    hash(kx_mk_ucurve(c[0], below(5) * 0.1));
+    hash(kx_mk_ucurve2d(c[2], 0.25));
+    hash(tag == KX_POLY_3D ? kx_mk_ucurve3d(c[1], 0.3) : kx_mk_ucurve2d(c[1], 0.125));
+    poly_2d corners[4], *pointers[4];
+    for (int i = 0; i < 4; ++i) pointers[i] = filled(corners + i);
+    pnt_2d point = {};
+    vector_2d vectors[3] = {};
+    hash(kx_eval_t_on_ucurve2d(c[2], below(9) * 0.125, pointers, &point, vectors, vectors + 1, vectors + 2));
+    hash(point);
+    for (const vector_2d &vector : vectors) hash_record(&vector);
+    for (curve *each : c) done(each);
+    for (list_hdr *list : ctrl) drop(list);
+  }
+  curve raw;
+  kx_init_curve(&raw);
+  hash_curve(&raw);
+  hash(kx_clear_curve(&raw, 1));
+  curv *words = kx_create_curv();
+  for (const std::int32_t word : words->words) hash(word);
+  kx_purge_curv(words);
+}
+
+void nonuniform_curves() {
+  for (int round = 0; round < 120; ++round) {
+    wild = round % 8 == 7;
+    const std::int32_t tag = tags[round % 4], p = 1 + below(5), n = p + 1 + below(8), spans = n - p;
+    list_hdr *ctrl[4], *knots[4], *weights[4];
+    for (int i = 0; i < 4; ++i)
+      ctrl[i] = points(n, tag), knots[i] = numbers(n + p + below(2), true), weights[i] = numbers(n, false);
+    curve *c[4] = {kx_create_curve(), kx_def_nubspl_curve3d(ctrl[1], knots[1], p, 2), nullptr, kx_create_curve()};
+    hash(kx_def_nubspl_curve2d(ctrl[0], knots[0], p + below(2), 3, c[0]));
+    c[2] = kx_def_nurb_curve(ctrl[2], knots[2], weights[2], p, 1 + below(3));
+    hash(tag == KX_PNT_3D || tag == KX_POLY_3D ? kx_def_nurb_curve3d(ctrl[3], knots[3], weights[3], p, 2, c[3])
+                                               : kx_def_nurb_curve2d(ctrl[3], knots[3], weights[3], p, 2, c[3]));
+    hash(kx_mk_nurb_curve(c[2], below(3), below(2), spans - below(2), below(4)));
+    hash(kx_mk_nurb_curve2d(c[3], 0, 0, spans, 2));
+    hash(kx_mk_nurb_curve3d(c[3], 1, 1, spans - 1, 3));
+    for (curve *each : c) done(each);
+    for (int i = 0; i < 4; ++i) drop(ctrl[i]), drop(knots[i]), drop(weights[i]);
+  }
+  for (int round = 0; round < 400; ++round) {
+    wild = round % 8 == 7;
+    const std::int32_t p = 1 + below(5);
+    double knots[24], weights[6], out[64] = {};
+    for (int i = 0; i < 24; ++i) knots[i] = i ? knots[i - 1] + below(3) * 0.7 : -1.0;
+    for (double &weight : weights) weight = below(4) + 0.5;
+    const double t = wild ? number() : knots[p] + below(5) * 0.35;
+    const std::int32_t span = kx_findknotspan(knots, 23, p, t, below(3) - 1);
+    hash(span);
+    if (span >= p - 1 && span + p < 24) hash(kx_basisfunctions(knots, span, p, t, below(p + 2), out));
+    for (const double value : out) hash(value);
+    poly_2d plane[6], *plane_ctrl[6];
+    poly_3d space[6], *space_ctrl[6];
+    for (int i = 0; i < 6; ++i) plane_ctrl[i] = filled(plane + i), space_ctrl[i] = filled(space + i);
+    pnt_2d at[2] = {};
+    pnt_3d in_space[2] = {};
+    hash(kx_deboor_2d(t, p, plane_ctrl, knots, at));
+    hash(kx_rat_deboor_2d(t, p, plane_ctrl, weights, knots, at + 1));
+    hash(kx_deboor_3d(t, p, space_ctrl, knots, in_space));
+    hash(kx_rat_deboor_3d(t, p, space_ctrl, weights, knots, in_space + 1));
+    for (int i = 0; i < 2; ++i) hash(at[i]), hash(in_space[i]);
+  }
+}
+
+}  // namespace digest
