@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Describes the exported functions as the headers declare them.
+"""Describes the exported functions and the records as the headers declare them.
 
 usage: interface.py [INCLUDE_DIR]      prints the description as JSON
 
@@ -34,6 +34,19 @@ class Parameter:
 
 
 @dataclasses.dataclass
+class Field:
+    name: str
+    type: str
+    count: int = 1  # of an array; rows times columns
+
+
+@dataclasses.dataclass
+class Record:
+    name: str
+    fields: list
+
+
+@dataclasses.dataclass
 class Function:
     name: str
     header: str
@@ -54,7 +67,7 @@ def type_name(node, declared=""):
         return type_name(node.type).rstrip() + (" *" if not type_name(node.type).endswith("*") else "*") + (
             " const" if "const" in node.quals else "")
     if isinstance(node, c_ast.TypeDecl):
-        return " ".join([*node.quals, *node.type.names])
+        return " ".join([*node.quals, *getattr(node.type, "names", ["struct", getattr(node.type, "name", "")])])
     raise ValueError(f"no type for a parameter: {node}")
 
 
@@ -102,19 +115,30 @@ def only_read(kind):
     return not kind.endswith("*") or pointee.endswith("const") or (pointee.startswith("const ") and "*" not in pointee)
 
 
-def read_functions(include):
-    """All exported functions, in the order of the headers."""
+def field(declaration):
+    node, count = declaration.type, 1
+    while isinstance(node, c_ast.ArrayDecl):
+        node, count = node.type, count * int(node.dim.value)
+    if isinstance(node, c_ast.TypeDecl) and isinstance(node.type, c_ast.Struct):
+        return Field(declaration.name, f"struct {node.type.name}", count)
+    return Field(declaration.name, type_name(node, declaration.name), count)
+
+
+def read_interface(include):
+    """All exported functions and all records, in the order of the headers."""
     include = pathlib.Path(include)
     text = subprocess.run(["cpp", "-ffreestanding", "-I", include, *PLAIN_C, include / "kxgeom.h"], check=True,
                           capture_output=True, text=True).stdout
     text = re.sub(r"^#pragma.*$", "", text, flags=re.M)
-    functions = []
+    functions, records = [], []
     for node in c_parser.CParser().parse(text, "kxgeom.h").ext:
         if isinstance(node, c_ast.Decl) and isinstance(node.type, c_ast.FuncDecl):
             given = node.type.args.params if node.type.args else []
             parameters = [Parameter(p.name, type_name(p.type, p.name)) for p in given if p.name]
             functions.append(Function(node.name, pathlib.Path(node.coord.file).name, node.coord.line,
                                       type_name(node.type.type), parameters))
+        elif isinstance(node, c_ast.Typedef) and isinstance(getattr(node.type, "type", None), c_ast.Struct):
+            records.append(Record(node.name, [field(each) for each in node.type.type.decls]))
     comments = {match["name"]: match["comment"] for header in sorted((include / "kxgeom").glob("*.h"))
                 for match in COMMENT.finditer(header.read_text())}
     for function in functions:
@@ -122,10 +146,10 @@ def read_functions(include):
             read_comment(function, comments[function.name])
         else:
             function.faults.append("has no comment of its own")
-    return functions
+    return functions, records
 
 
 if __name__ == "__main__":
     here = pathlib.Path(__file__).resolve().parent.parent
-    described = read_functions(sys.argv[1] if len(sys.argv) > 1 else here / "include")
-    print(json.dumps([dataclasses.asdict(function) for function in described], indent=1))
+    found = read_interface(sys.argv[1] if len(sys.argv) > 1 else here / "include")
+    print(json.dumps([[dataclasses.asdict(each) for each in part] for part in found], indent=1))

@@ -86,12 +86,12 @@ def main():
     sys.path.insert(0, str(args.source / "scripts"))
     sys.dont_write_bytecode = True
     from exports import read_names
-    from interface import read_functions
+    from interface import read_interface
 
     functions, aliases = read_names(args.source / "include" / "kxgeom32.def")
     listed = set(functions) | set(aliases)
     headers = sorted((args.source / "include").rglob("*.h"))
-    described = read_functions(args.source / "include")
+    described, _ = read_interface(args.source / "include")
     declared = [function.name for function in described]
     for function in described:
         for text in function.faults:

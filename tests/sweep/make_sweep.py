@@ -1,0 +1,61 @@
+#!/usr/bin/env python3
+"""Writes what the sweep knows of the interface: every record's fields and every exported function, as the headers say.
+
+usage: make_sweep.py SOURCE_DIR OUT.cpp
+"""
+import pathlib
+import re
+import sys
+
+
+def flat_fields(record, records, prefix=""):
+    """Every double and int32_t of a record, those of records in it too, as C expressions of the member."""
+    for field in record.fields:
+        for i in range(field.count):
+            name = prefix + field.name + (f"[{i}]" if field.count > 1 else "")
+            if field.type in ("double", "int32_t"):
+                yield name, field.type == "double"
+            elif field.type in records:
+                yield from flat_fields(records[field.type], records, name + ".")
+
+
+def length(parameter, names):
+    """The number of elements as a function of all integer parameters; *n is the integer that n points to."""
+    if not parameter.length:
+        return "nullptr"
+    words = re.sub(r"\*?\b([a-z]\w*)\b", lambda match: f"n[{names.index(match[1])}]", parameter.length)
+    return f"[](const long *n) -> long {{ (void)n; return {words}; }}"
+
+
+def main():
+    source, out = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    sys.path.insert(0, str(source / "scripts"))
+    sys.dont_write_bytecode = True
+    from interface import read_interface
+
+    functions, records = read_interface(source / "include")
+    by_name = {record.name: record for record in records}
+    lines = ['#include "sweep.hpp"', "", "namespace sweep {", ""]
+    layouts = {"double": "{0, true}", "int32_t": "{0, false}"}
+    for record in records:
+        layouts[record.name] = ", ".join(f"{{offsetof({record.name}, {name}), {str(real).lower()}}}"
+                                         for name, real in flat_fields(record, by_name))
+    for name, fields in layouts.items():
+        lines += ["template <>", f"const std::vector<field> &fields_of<{name}>() {{",
+                  f"  static const std::vector<field> all = {{{fields}}};", "  return all;", "}"]
+    lines += ["", "const std::vector<function> functions = {"]
+    for function in functions:
+        names = [p.name for p in function.parameters]
+        in_lengths = set(re.findall(r"[a-z]\w*", " ".join(p.length for p in function.parameters)))
+        parameters = ", ".join(
+            f'{{"{p.name}", {str(p.direction != "in").lower()}, {length(p, names)}, {str(p.name in in_lengths).lower()}}}'
+            for p in function.parameters)
+        lines.append(f'  describe("{function.name}", "{function.header}:{function.line}", {function.name}, {{{parameters}}}),')
+    lines += ["};", "", "}  // namespace sweep", ""]
+    text = "\n".join(lines)
+    if not out.exists() or out.read_text() != text:
+        out.write_text(text)
+
+
+if __name__ == "__main__":
+    main()
