@@ -5,7 +5,8 @@ usage: interface.py [INCLUDE_DIR]      prints the description as JSON
 
 A C parser reads the prototypes, and the comment above each one says the rest: what every parameter is for, whether it
 is read or written, and what comes back. In a comment, name[n] is an array of n elements, n a number or an expression
-of other parameters; a pointer without brackets is to one record, or to what its text says.
+of other parameters: *count is what count points to, a list stands for the number of its items. A pointer without
+brackets is to one record, or to what its text says.
 """
 import dataclasses
 import json

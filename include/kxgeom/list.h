@@ -165,7 +165,7 @@ KX_API void *KX_CALL ll_pop_list(list_hdr *list);
 /**
  * Stores the data of all items, head to tail, into an array. An empty list stores one null.
  * @param[in,out] list  the list; its position ends at the head
- * @param[out] array  room for one pointer an item, and for one at least
+ * @param[out] array[list+1]  the pointers, one an item; there must be room for one at least
  * @return the number of pointers stored; 0 for a null list or array
  */
 KX_API int32_t KX_CALL ll_get_list_array(list_hdr *list, void **array);

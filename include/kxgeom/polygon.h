@@ -32,7 +32,7 @@ extern "C" {
  * its own. Reversing the polygon, starting it at another vertex or repeating the first point at the end gives the same
  * answer.
  * @param[in] p  the point; on the boundary the answer may be either
- * @param[in] polygon  the vertices
+ * @param[in] polygon[*count]  the vertices
  * @param[in] count  how many they are
  * @param[in,out] rightmost_index  index of the rightmost vertex, 0 for not known yet: then it is looked for and stored,
  *   the last of those that are equally far right within tolerance. Null, and any value but 0, skips that; the answer is
@@ -167,7 +167,7 @@ KX_API int32_t KX_CALL kx_rect_intersect_2d(const rect_2d *first, const rect_2d 
 /**
  * Tells whether a polygon given as an array turns in one sense only. A turn is the cross product of the edges that meet
  * at a vertex; within 1e-7 of 0 it is none.
- * @param[in] polygon  the vertices
+ * @param[in] polygon[count]  the vertices
  * @param[in] count  how many they are
  * @param[out] type  0 no turns: all in one line; 1 concave: turns to both sides; 2 convex: turns to one side only, also
  *   when the boundary goes round more than once; untouched unless the result is 0
@@ -203,7 +203,7 @@ KX_API int32_t KX_CALL kx_poly_xy_maxmin(const list_hdr *polygon, rect_2d *exten
 /**
  * Gives the outermost of an array's points in the four directions of the axes. Of points equally far out it is the
  * first.
- * @param[in] pnts  the points; those with a NaN are passed over
+ * @param[in] pnts[count]  the points; those with a NaN are passed over
  * @param[in] count  how many they are
  * @param[out] leftmost,rightmost,lowest,highest  the points; a null one is passed over; untouched unless the result is
  * 0
@@ -215,7 +215,7 @@ KX_API int32_t KX_CALL kx_extremepnts(const pnt_2d *pnts, int32_t count, pnt_2d 
 /**
  * Finds the lowest of an array's leftmost points: those whose x equals the smallest one within tolerance. Of equally
  * low ones it is the first.
- * @param[in] pnts  the points; those with a NaN are passed over
+ * @param[in] pnts[count]  the points; those with a NaN are passed over
  * @param[in] count  how many they are
  * @return its index; -1 when there are no points
  */
@@ -226,7 +226,7 @@ KX_API int32_t KX_CALL kx_find_smallest_xy(const pnt_2d *pnts, int32_t count);
 /**
  * Makes a polygon given as an array run in a direction, by its signed area. The first point stays the first; where the
  * last repeats it, the last still does.
- * @param[in,out] polygon  the vertices
+ * @param[in,out] polygon[count]  the vertices
  * @param[in] count  how many they are
  * @param[in] direction  0 clockwise, any other counter-clockwise
  * @return 1 when it runs that way now; 0, and nothing done, for a null pointer, fewer than three vertices, or an area

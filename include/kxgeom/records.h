@@ -982,7 +982,7 @@ KX_API pnt_2d *KX_CALL kx_create_pnt_2d_array(int32_t n);
  * Writes an element of an array of plane points.
  * @param[in] x,y  the values
  * @param[in] index  the element, counted from 0; not checked
- * @param[out] array  the array; null writes nothing
+ * @param[out] array[index+1]  the array; null writes nothing
  * @return the element's address; null for a null array
  */
 KX_API pnt_2d *KX_CALL kx_set_array_pnt_2d(double x, double y, int32_t index, pnt_2d *array);
@@ -991,7 +991,7 @@ KX_API pnt_2d *KX_CALL kx_set_array_pnt_2d(double x, double y, int32_t index, pn
  * Reads an element of an array of plane points.
  * @param[out] x,y  the values; a null output is passed over
  * @param[in] index  the element, counted from 0; not checked
- * @param[in] array  the array; null writes nothing
+ * @param[in] array[index+1]  the array; null writes nothing
  */
 KX_API void KX_CALL kx_get_array_pnt_2d(double *x, double *y, int32_t index, const pnt_2d *array);
 
@@ -1014,7 +1014,7 @@ KX_API pnt_3d *KX_CALL kx_create_pnt_3d_array(int32_t n);
  * Writes an element of an array of space points.
  * @param[in] x,y,z  the values
  * @param[in] index  the element, counted from 0; not checked
- * @param[out] array  the array; null writes nothing
+ * @param[out] array[index+1]  the array; null writes nothing
  * @return the element's address; null for a null array
  */
 KX_API pnt_3d *KX_CALL kx_set_array_pnt_3d(double x, double y, double z, int32_t index, pnt_3d *array);
@@ -1023,7 +1023,7 @@ KX_API pnt_3d *KX_CALL kx_set_array_pnt_3d(double x, double y, double z, int32_t
  * Reads an element of an array of space points.
  * @param[out] x,y,z  the values; a null output is passed over
  * @param[in] index  the element, counted from 0; not checked
- * @param[in] array  the array; null writes nothing
+ * @param[in] array[index+1]  the array; null writes nothing
  */
 KX_API void KX_CALL kx_get_array_pnt_3d(double *x, double *y, double *z, int32_t index, const pnt_3d *array);
 
@@ -1046,7 +1046,7 @@ KX_API rnumber *KX_CALL kx_create_rnumber_array(int32_t n);
  * Writes an element of an array of real numbers.
  * @param[in] value  the values
  * @param[in] index  the element, counted from 0; not checked
- * @param[out] array  the array; null writes nothing
+ * @param[out] array[index+1]  the array; null writes nothing
  * @return the element's address; null for a null array
  */
 KX_API rnumber *KX_CALL kx_set_array_rnumber(double value, int32_t index, rnumber *array);
@@ -1055,7 +1055,7 @@ KX_API rnumber *KX_CALL kx_set_array_rnumber(double value, int32_t index, rnumbe
  * Reads an element of an array of real numbers.
  * @param[out] value  the values; a null output is passed over
  * @param[in] index  the element, counted from 0; not checked
- * @param[in] array  the array; null writes nothing
+ * @param[in] array[index+1]  the array; null writes nothing
  */
 KX_API void KX_CALL kx_get_array_rnumber(double *value, int32_t index, const rnumber *array);
 
@@ -1078,7 +1078,7 @@ KX_API inumber *KX_CALL kx_create_inumber_array(int32_t n);
  * Writes an element of an array of integers.
  * @param[in] value  the values
  * @param[in] index  the element, counted from 0; not checked
- * @param[out] array  the array; null writes nothing
+ * @param[out] array[index+1]  the array; null writes nothing
  * @return the element's address; null for a null array
  */
 KX_API inumber *KX_CALL kx_set_array_inumber(int32_t value, int32_t index, inumber *array);
@@ -1087,7 +1087,7 @@ KX_API inumber *KX_CALL kx_set_array_inumber(int32_t value, int32_t index, inumb
  * Reads an element of an array of integers.
  * @param[out] value  the values; a null output is passed over
  * @param[in] index  the element, counted from 0; not checked
- * @param[in] array  the array; null writes nothing
+ * @param[in] array[index+1]  the array; null writes nothing
  */
 KX_API void KX_CALL kx_get_array_inumber(int32_t *value, int32_t index, const inumber *array);
 
@@ -1110,7 +1110,7 @@ KX_API void **KX_CALL kx_create_handle_array(int32_t n);
  * Writes an element of an array of handles (pointers of the host).
  * @param[in] handle  the values
  * @param[in] index  the element, counted from 0; not checked
- * @param[out] array  the array; null writes nothing
+ * @param[out] array[index+1]  the array; null writes nothing
  * @return the element's address; null for a null array
  */
 KX_API void **KX_CALL kx_set_array_handle(void *handle, int32_t index, void **array);
@@ -1119,7 +1119,7 @@ KX_API void **KX_CALL kx_set_array_handle(void *handle, int32_t index, void **ar
  * Reads an element of an array of handles (pointers of the host).
  * @param[out] handle  the values; a null output is passed over
  * @param[in] index  the element, counted from 0; not checked
- * @param[in] array  the array; null writes nothing
+ * @param[in] array[index+1]  the array; null writes nothing
  */
 KX_API void KX_CALL kx_get_array_handle(void **handle, int32_t index, void *const *array);
 
@@ -1134,7 +1134,7 @@ KX_API void KX_CALL kx_purge_handle_array(void **array);
 /**
  * Appends plane points to a list as poly_2d items numbered from 0 in array order. When the memory for a point runs
  * out, the whole list is emptied, items from before the call included.
- * @param[in] array  the points
+ * @param[in] array[n]  the points
  * @param[in] n  their number; a negative one adds nothing
  * @param[in,out] list  the list; the last point is current
  * @return the list's count; 0 for n = 0, a null list or array, and after the memory message of a point; an item that
@@ -1146,7 +1146,7 @@ KX_API int32_t KX_CALL kx_put_xypolyheap(const pnt_2d *array, int32_t n, list_hd
  * Copies the points of a list into an array: x and y; z is dropped. The current item's tag decides how every item is
  * read; items without data or with a smaller record are passed over.
  * @param[in,out] list  list of points of any of the four kinds; its position ends at the head
- * @param[out] array  receives the points
+ * @param[out] array[*count]  receives the points
  * @param[in,out] count  room in the array; receives the number of points copied
  * @return the number of points copied; 0, with nothing written, for a null argument, an empty list, or room for fewer
  *   points than the list has items
@@ -1155,7 +1155,7 @@ KX_API int32_t KX_CALL kx_get_xypolyheap(list_hdr *list, pnt_2d *array, int32_t 
 
 /**
  * Makes a list of points from an array of plane points.
- * @param[in] array  the points
+ * @param[in] array[n]  the points
  * @param[in] n  their number
  * @param[in] datatype  kind of the items: 50, 51, 62 or 63
  * @param[in] first  number of the first polygon point
@@ -1169,7 +1169,7 @@ KX_API list_hdr *KX_CALL kx_pnt2d_array_to_list(const pnt_2d *array, int32_t n, 
 /**
  * Appends space points to a list as poly_3d items numbered from 0 in array order. When the memory for a point runs
  * out, the whole list is emptied, items from before the call included.
- * @param[in] array  the points
+ * @param[in] array[n]  the points
  * @param[in] n  their number; a negative one adds nothing
  * @param[in,out] list  the list; the last point is current
  * @return the list's count; 0 for n = 0, a null list or array, and after the memory message of a point; an item that
@@ -1181,7 +1181,7 @@ KX_API int32_t KX_CALL kx_put_xyzpolyheap(const pnt_3d *array, int32_t n, list_h
  * Copies the points of a list into an array: x, y and z; z is 0 for the plane kinds. The current item's tag decides
  * how every item is read; items without data or with a smaller record are passed over.
  * @param[in,out] list  list of points of any of the four kinds; its position ends at the head
- * @param[out] array  receives the points
+ * @param[out] array[*count]  receives the points
  * @param[in,out] count  room in the array; receives the number of points copied
  * @return the number of points copied; 0, with nothing written, for a null argument, an empty list, or room for fewer
  *   points than the list has items
@@ -1190,7 +1190,7 @@ KX_API int32_t KX_CALL kx_get_xyzpolyheap(list_hdr *list, pnt_3d *array, int32_t
 
 /**
  * Makes a list of points from an array of space points.
- * @param[in] array  the points
+ * @param[in] array[n]  the points
  * @param[in] n  their number
  * @param[in] datatype  kind of the items: 50, 51, 62 or 63
  * @param[in] first  number of the first polygon point

@@ -79,7 +79,7 @@ KX_API void KX_CALL kx_display_msg(const char *code, int32_t number, const char 
  * line whose key converts to the number, the line's end included. Lines count in pieces of 127 characters. A key that
  * is no number counts as 0, so message 0, which stands in for every missing one, belongs before all such lines.
  * @param[in] number  the message wanted
- * @param[out] buffer  at least 144 characters; "(0): " and the text of message 0 when the number is missing,
+ * @param[out] buffer[144]  "(0): " and the text of message 0 when the number is missing,
  *   "(number) Cannot Find Message" when that is missing too, "(number) Cannot Find Message File" without a file
  * @return number; 0 when message 0 was taken instead; -1 when there is no text, no file or no buffer
  */
@@ -567,7 +567,7 @@ KX_API int32_t KX_CALL kx_close_file(void *file);
 /**
  * Writes one block.
  * @param[in] file  the handle
- * @param[in] buffer  the bytes
+ * @param[in] buffer[n]  the bytes
  * @param[in] n  how many
  * @return n when the whole block was written; otherwise 0, also with n <= 0 or a null argument
  */
@@ -576,7 +576,7 @@ KX_API int32_t KX_CALL kx_write_file(void *file, const void *buffer, int32_t n);
 /**
  * Reads one block.
  * @param[in] file  the handle
- * @param[out] buffer  room for n bytes; after a short read the bytes that were there, the rest undefined
+ * @param[out] buffer[n]  after a short read the bytes that were there, the rest undefined
  * @param[in] n  how many
  * @return n when the whole block was read; otherwise 0, also after a short read, with n <= 0 or a null argument
  */
@@ -603,7 +603,7 @@ KX_API int32_t KX_CALL kx_seek_file(void *file, int32_t offset, int32_t origin);
 /**
  * Copies a text into a buffer of fixed size: as much of it as leaves room for the terminator, then zeros to the end.
  * Source and destination may overlap.
- * @param[out] destination  size bytes; null is left alone
+ * @param[out] destination[size]  null is left alone
  * @param[in] size  bytes in the destination; with 0 or less nothing happens
  * @param[in] source  the text; null counts as an empty one
  */
@@ -611,7 +611,7 @@ KX_API void KX_CALL kx_strcpy(char *destination, int32_t size, const char *sourc
 
 /**
  * Fills bytes with a character; no terminator is added.
- * @param[out] destination  n bytes; null is left alone
+ * @param[out] destination[n]  null is left alone
  * @param[in] n  how many; with 0 or less nothing happens
  * @param[in] character  the character, its low eight bits count
  */

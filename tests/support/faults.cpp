@@ -1,8 +1,10 @@
-// The tests are linked with --wrap for malloc and free, and with this message box in place of the platform's.
+// The tests are linked with --wrap for malloc, calloc and free, and with this message box in place of the platform's.
 #include "support/faults.hpp"
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "runtime/message_box.hpp"
 
@@ -10,6 +12,7 @@ extern "C" {
 void *__real_malloc(std::size_t bytes);
 void __real_free(void *block);
 void *__wrap_malloc(std::size_t bytes);
+void *__wrap_calloc(std::size_t count, std::size_t bytes);  // what an optimiser makes of a block filled with zeros
 void __wrap_free(void *block);
 }
 
@@ -40,6 +43,11 @@ void *__wrap_malloc(std::size_t bytes) {
     watched[watched_count++] = block;
   }
   return block;
+}
+
+void *__wrap_calloc(std::size_t count, std::size_t bytes) {
+  void *block = bytes && count > SIZE_MAX / bytes ? nullptr : __wrap_malloc(count * bytes);
+  return block ? std::memset(block, 0, count * bytes) : nullptr;
 }
 
 void __wrap_free(void *block) {

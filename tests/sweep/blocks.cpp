@@ -10,6 +10,7 @@ extern "C" {
 void *__real_malloc(std::size_t bytes);
 void __real_free(void *block);
 void *__wrap_malloc(std::size_t bytes);
+void *__wrap_calloc(std::size_t count, std::size_t bytes);  // what an optimiser makes of a block filled with zeros
 void __wrap_free(void *block);
 }
 
@@ -18,6 +19,7 @@ namespace {
 constexpr std::uint32_t alive = 0x6b786c76, freed = 0x6b786672;
 constexpr unsigned char guard = 0xa5;
 constexpr std::size_t guard_bytes = 16;
+constexpr std::size_t largest_block = std::size_t{1} << 28;  // the heap of a small machine
 
 // In front of every block; the guard is behind it.
 struct alignas(16) head {
@@ -33,28 +35,25 @@ thread_local head *first = nullptr;
 thread_local bool in_call = false, later_too = false;
 thread_local long asked = 0, to_fail = 0;
 thread_local const char *found = "";
+thread_local std::vector<head *> in_order;  // of their addresses, at the end of the call
 
 head *head_of(void *block) { return static_cast<head *>(block) - 1; }
 
-// All live blocks, in the order of their addresses.
-std::vector<head *> &sorted() {
-  thread_local std::vector<head *> all;
-  all.clear();
-  for (head *h = first; h; h = h->next) all.push_back(h);
-  std::sort(all.begin(), all.end());
-  return all;
+head *live(const void *block) {
+  const auto after = std::upper_bound(in_order.begin(), in_order.end(), block);
+  return after != in_order.begin() && after[-1]->data() == block ? after[-1] : nullptr;
 }
 
 // Records are packed to 4 bytes: a pointer can stand at any multiple.
-void reach(const std::vector<head *> &all, const void *at, std::size_t bytes, std::vector<head *> &open) {
+void reach(const void *at, std::size_t bytes, std::vector<head *> &open) {
   for (std::size_t i = 0; i + sizeof(void *) <= bytes; i += 4) {
     void *pointer;
     std::memcpy(&pointer, static_cast<const char *>(at) + i, sizeof pointer);
     if (pointer == nullptr) continue;
-    const auto h = std::upper_bound(all.begin(), all.end(), static_cast<head *>(pointer));
-    if (h == all.begin() || h[-1]->data() != pointer || h[-1]->reached) continue;
-    h[-1]->reached = true;
-    open.push_back(h[-1]);
+    head *h = live(pointer);
+    if (h == nullptr || h->reached) continue;
+    h->reached = true;
+    open.push_back(h);
   }
 }
 
@@ -65,7 +64,7 @@ void *__wrap_malloc(std::size_t bytes) {
     ++asked;
     if (to_fail && (asked == to_fail || (later_too && asked > to_fail))) return nullptr;
   }
-  if (bytes > PTRDIFF_MAX - sizeof(head) - guard_bytes) return nullptr;
+  if (bytes > largest_block) return nullptr;
   void *block = __real_malloc(sizeof(head) + bytes + guard_bytes);
   if (block == nullptr) return nullptr;
   head *h = new (block) head{nullptr, first, bytes, alive, in_call, false};
@@ -75,6 +74,11 @@ void *__wrap_malloc(std::size_t bytes) {
   std::memset(h->data(), 0xcd, std::min<std::size_t>(bytes, 4096));
   std::memset(h->data() + bytes, guard, guard_bytes);
   return h->data();
+}
+
+void *__wrap_calloc(std::size_t count, std::size_t bytes) {
+  void *block = bytes && count > SIZE_MAX / bytes ? nullptr : __wrap_malloc(count * bytes);
+  return block ? std::memset(block, 0, count * bytes) : nullptr;
 }
 
 void __wrap_free(void *block) {
@@ -107,19 +111,16 @@ long end_call() {
   return asked;
 }
 
-bool is_live(const void *block) {
-  for (head *h = first; h; h = h->next) {
-    if (h->data() == block) return true;
-  }
-  return false;
-}
+bool is_live(const void *block) { return live(block) != nullptr; }
 
 std::string fault(const std::vector<root> &roots) {
+  in_order.clear();
+  for (head *h = first; h; h = h->next) in_order.push_back(h);
+  std::sort(in_order.begin(), in_order.end());
   if (*found) return found;
-  const std::vector<head *> &all = sorted();
   std::vector<head *> open;
-  for (const root &r : roots) reach(all, r.at, r.bytes, open);
-  for (head *h : all) {
+  for (const root &r : roots) reach(r.at, r.bytes, open);
+  for (head *h : in_order) {
     for (std::size_t i = 0; i < guard_bytes; ++i) {
       if (h->data()[h->bytes + i] != guard) return "somebody wrote behind a block";
     }
@@ -130,10 +131,9 @@ std::string fault(const std::vector<root> &roots) {
   while (!open.empty()) {
     head *h = open.back();
     open.pop_back();
-    reach(all, h->data(), h->bytes, open);
+    reach(h->data(), h->bytes, open);
   }
-  std::size_t lost = 0;
-  for (const head *h : all) lost += !h->reached;
+  const auto lost = std::count_if(in_order.begin(), in_order.end(), [](const head *h) { return !h->reached; });
   return lost ? std::to_string(lost) + " blocks are lost" : "";
 }
 

@@ -19,7 +19,7 @@ void begin_call(long fail_nth = 0, bool and_all_later = false);
 // How many allocations the call asked for.
 long end_call();
 
-// Whether this address is that of a block that is alive.
+// Whether this address is that of a block that is alive; between fault() and release_all().
 bool is_live(const void *block);
 
 // What is wrong with the blocks after a call, empty if nothing: one freed twice, one written beside, one taken by the

@@ -48,9 +48,12 @@ def main():
         names = [p.name for p in function.parameters]
         in_lengths = set(re.findall(r"[a-z]\w*", " ".join(p.length for p in function.parameters)))
         parameters = ", ".join(
-            f'{{"{p.name}", {str(p.direction != "in").lower()}, {length(p, names)}, {str(p.name in in_lengths).lower()}}}'
+            f'{{"{p.name}", {str(p.direction != "in").lower()}, {length(p, names)},'
+            f' {str(p.name in in_lengths).lower()}, {str("not checked" in p.text).lower()}}}'
             for p in function.parameters)
-        lines.append(f'  describe("{function.name}", "{function.header}:{function.line}", {function.name}, {{{parameters}}}),')
+        lines.append(f'  describe("{function.name}", "{function.header}:{function.line}", {function.name}, {{{parameters}}},'
+                     f" {str(function.result == 'list_hdr *' and 'array' not in function.name).lower()},"
+                     f" {str('NaN' in function.returns).lower()}),")
     lines += ["};", "", "}  // namespace sweep", ""]
     text = "\n".join(lines)
     if not out.exists() or out.read_text() != text:

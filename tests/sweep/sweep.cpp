@@ -73,10 +73,15 @@ std::string fault_of(const function &f, const run &r, long *asked = nullptr) {
       make(i);
       const std::int32_t *pointer = slots[i].as<std::int32_t *>();
       if (pointer) integers[i] = *pointer;
+    } else if (f.types[i].list) {
+      make(i);
+      const list_hdr *list = slots[i].as<const list_hdr *>();
+      integers[i] = list ? list->count : 0;
     }
   }
   for (std::size_t i = 0; i < count; ++i) {
-    if (f.types[i].integer || (f.types[i].integer_pointer && f.parameters[i].length == nullptr)) continue;
+    if (f.types[i].integer || f.types[i].list || (f.types[i].integer_pointer && f.parameters[i].length == nullptr))
+      continue;
     if (f.parameters[i].length) lengths[i] = std::max(1L, std::min(4096L, f.parameters[i].length(integers.data())));
     make(i);
   }
@@ -101,7 +106,8 @@ std::string fault_of(const function &f, const run &r, long *asked = nullptr) {
   for (const slot &s : given) roots.push_back({s.bytes, sizeof s.bytes});
   std::string fault = blocks::fault(roots);
   if (took.count() > most_seconds) fault = "takes too long";
-  if (r.special < 0 && r.fail_nth == 0 && raised) {
+  const bool expected = f.may_be_nan && std::isnan(result.as<double>());
+  if (r.special < 0 && r.fail_nth == 0 && raised && !expected) {
     fault = std::string("raises") + (raised & FE_INVALID ? " invalid" : "") +
             (raised & FE_DIVBYZERO ? " division by zero" : "") + (raised & FE_OVERFLOW ? " overflow" : "");
   }

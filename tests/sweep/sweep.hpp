@@ -49,6 +49,7 @@ struct function {
   void (*address)();
   void (*call)(void (*)(), slot *, slot &);
   bool gives_list;
+  bool may_be_nan;  // the result, even where no argument is
 };
 
 template <class R, class... P, std::size_t... I>
@@ -63,7 +64,8 @@ void call_with(R(KX_CALL *f)(P...), slot *s, slot &result, std::index_sequence<I
 }
 
 template <class R, class... P>
-function describe(const char *name, const char *where, R(KX_CALL *f)(P...), std::vector<parameter> parameters) {
+function describe(const char *name, const char *where, R(KX_CALL *f)(P...), std::vector<parameter> parameters,
+                  bool gives_list, bool may_be_nan) {
   return {name,
           where,
           std::move(parameters),
@@ -72,7 +74,8 @@ function describe(const char *name, const char *where, R(KX_CALL *f)(P...), std:
           [](void (*address)(), slot *s, slot &result) {
             call_with(reinterpret_cast<R(KX_CALL *)(P...)>(address), s, result, std::index_sequence_for<P...>());
           },
-          std::is_same_v<R, list_hdr *>};
+          gives_list,
+          may_be_nan && std::is_same_v<R, double>};
 }
 
 // All exported functions; made from the headers.

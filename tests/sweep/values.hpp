@@ -43,6 +43,8 @@ struct parameter {
   long (*length)(const long *integers);
   // Whether this integer tells how long an array is: it cannot be more than there is.
   bool is_length;
+  // Whether the headers say that nothing checks it.
+  bool trusted;
 };
 
 // Room for any argument or result, by value.
@@ -117,7 +119,7 @@ struct values<double> {
 
 template <>
 struct values<std::int32_t> {
-  static int specials(const parameter &p) { return integers - p.is_length; }
+  static int specials(const parameter &p) { return p.trusted ? 0 : integers - p.is_length; }
   static void make(const request &r, draw &d, slot &s) {
     std::int32_t value;
     set_usual(value, d);
@@ -140,7 +142,7 @@ struct values<T, std::enable_if_t<std::is_class_v<T>>> {
 template <class T>
 struct values<T *, std::enable_if_t<!std::is_pointer_v<T> && !std::is_function_v<T> && !std::is_void_v<T>>> {
   using record = std::remove_const_t<T>;
-  static int specials(const parameter &) { return 1 + field_specials(fields_of<record>()); }
+  static int specials(const parameter &p) { return 1 + field_specials(fields_of<record>()) - p.is_length; }
   static void make(const request &r, draw &d, slot &s) {
     record *made = new_records<record>(r.length, d);
     if (r.special > 0)
