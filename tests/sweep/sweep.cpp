@@ -19,15 +19,12 @@
 #include <thread>
 
 #include "blocks.hpp"
-#include "runtime/message_box.hpp"
 
 #if !defined(_WIN32)
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
-
-std::int32_t kx::show_message_box(const char *) { return 1; }
 
 namespace sweep {
 namespace {
