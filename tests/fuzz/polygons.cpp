@@ -30,10 +30,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   list_hdr *found = ll_create_list();
   const std::int32_t asked = other->count;
 
-  bool distinct = n >= 3;
+  bool distinct = n >= 3, moderate = true;
   for (std::size_t i = 0; i < corners.size(); ++i) {
     distinct = distinct && kx_samepnt(&corners[i], &corners[i]);
+    // Products of larger coordinates overflow; NaN is no coordinate.
+    moderate = moderate && std::fabs(corners[i].x) < 1e12 && std::fabs(corners[i].y) < 1e12;
     for (std::size_t k = 0; k < i; ++k) distinct = distinct && !kx_samepnt(&corners[i], &corners[k]);
+  }
+
+  for (const list_item *item = other->head; item; item = item->next) {
+    other->current = const_cast<list_item *>(item);
+    const pnt_2d p = ll_get_pnt2d(other, 4);
+    moderate = moderate && std::fabs(p.x) < 1e12 && std::fabs(p.y) < 1e12;
   }
 
   std::int32_t many = 0, few = 0;
@@ -42,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     other->current = const_cast<list_item *>(item);
     const pnt_2d p = ll_get_pnt2d(other, 4);
     few += kx_inonpolygonl(&p, polygon) == 1;
-    if (n >= 3 && kx_onpolygonl(&p, polygon) == 0) {
+    if (n >= 3 && moderate && kx_onpolygonl(&p, polygon) == 0) {
       std::vector<pnt_2d> ring = corners;
       std::int32_t count = n, at = 0;
       const std::int32_t inside = kx_inpolygon(&p, ring.data(), &count, &at);
@@ -54,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
       }
     }
   }
-  REQUIRE(n < 3 || many == few);
+  REQUIRE(n < 3 || !moderate || many == few);
   REQUIRE(other->count == asked);
   for (const std::int32_t closed : {0, 1}) {
     const auto first = static_cast<std::size_t>(n ? in.below(n) : 0);
