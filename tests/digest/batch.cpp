@@ -1,13 +1,18 @@
 #include "batch.hpp"
 
+#include <cstdio>
 #include <iterator>
 #include <limits>
+#include <string>
 
 namespace digest {
 namespace {
 
 std::uint64_t state, digest;
 double last;
+bool printing = false;
+double largest;  // of the numbers that went into the line being printed
+std::string line;
 
 }  // namespace
 
@@ -19,12 +24,24 @@ void restart() {
 
 std::uint64_t hashed() { return digest; }
 
+void begin_line(const char *name) {
+  printing = true;
+  largest = 0.0;
+  line.clear();
+  std::printf("~ %s", name);
+}
+
+void end_line() {
+  printing = false;
+  std::printf(" %a:%s\n", largest, line.c_str());
+}
+
 std::int32_t below(std::int32_t n) {
   state = state * 6364136223846793005u + 1442695040888963407u;
   return static_cast<std::int32_t>((state >> 33) % static_cast<std::uint64_t>(n));
 }
 
-double number() {
+static double any_number() {
   static const double edges[] = {
       0.0,         -0.0,     1e-7,     -1e-7,  1.0000001e-7, 9.999999e-8,
       2e-7,        1 + 1e-7, 1 + 2e-7, 1.0,    -1.0,         45,
@@ -38,15 +55,34 @@ double number() {
   }
 }
 
+double number() {
+  const double value = any_number();
+  if (std::fabs(value) > largest) largest = std::fabs(value);
+  return value;
+}
+
 std::int32_t integer() { return wild && below(4) == 0 ? (below(2) ? INT32_MAX : -INT32_MAX - 1) : below(41) - 10; }
 
 void hash_bytes(const void *data, std::size_t bytes) {
   for (std::size_t i = 0; i < bytes; ++i)
     digest = (digest ^ static_cast<const unsigned char *>(data)[i]) * 1099511628211u;
 }
-void hash(std::int32_t value) { hash_bytes(&value, sizeof value); }
+void hash(std::int32_t value) {
+  if (printing) {
+    line += ' ';
+    line += std::to_string(value);
+    return;
+  }
+  hash_bytes(&value, sizeof value);
+}
 void hash(double value) {
   if (std::isnan(value)) value = std::nan("");
+  if (printing) {
+    char text[40];
+    std::snprintf(text, sizeof text, " %a", value);
+    line += text;
+    return;
+  }
   hash_bytes(&value, sizeof value);
 }
 

@@ -34,6 +34,10 @@ std::int32_t integer();
 // ---- hashing ----
 
 std::uint64_t hashed();
+// Between these two what would be hashed is printed instead, on a line with the function's name and the largest number
+// that went in: for functions whose last places depend on the system's sine, logarithm and the like.
+void begin_line(const char *name);
+void end_line();
 void hash_bytes(const void *data, std::size_t bytes);
 void hash(std::int32_t value);
 void hash(double value);
@@ -142,16 +146,21 @@ template <>
 struct argument<const list_hdr *> : argument<list_hdr *> {};
 
 template <class R, class... P>
-void batch(R(KX_CALL *function)(P...)) {
+void call(R(KX_CALL *function)(P...)) {
+  std::tuple<argument<P>...> arguments{argument<P>()...};
+  if constexpr (std::is_void_v<R>) {
+    std::apply([&](auto &...a) { function(a...); }, arguments);
+  } else {
+    hash(std::apply([&](auto &...a) { return function(a...); }, arguments));
+  }
+  std::apply([](auto &...a) { (a.done(), ...); }, arguments);
+}
+
+template <class F>
+void batch(F function) {
   for (int n = 0; n < 200; ++n) {
     wild = n % 4 == 3;
-    std::tuple<argument<P>...> arguments{argument<P>()...};
-    if constexpr (std::is_void_v<R>) {
-      std::apply([&](auto &...a) { function(a...); }, arguments);
-    } else {
-      hash(std::apply([&](auto &...a) { return function(a...); }, arguments));
-    }
-    std::apply([](auto &...a) { (a.done(), ...); }, arguments);
+    call(function);
   }
 }
 template <class... F>
@@ -159,5 +168,16 @@ void batches(F... functions) {
   wild = false;
   (batch(functions), ...);
 }
+
+template <class F>
+void near_batch(const char *name, F function) {
+  wild = false;
+  for (int n = 0; n < 60; ++n) {
+    begin_line(name);
+    call(function);
+    end_line();
+  }
+}
+#define NEAR(function) near_batch(#function, function)
 
 }  // namespace digest

@@ -1,8 +1,3 @@
-// Left out, transcendental: kx_angletwolines kx_angle_lines_deg kx_angle_lines_rad kx_arcangle kx_angleparmtan
-//   kx_pntangledist kx_pntangledist_3d kx_vectordirection kx_angletwoplanes kx_anglelineplane kx_anglelinesspace
-//   kx_vectoradd kx_vector_add kx_vector_sub kx_vector_neg kx_vectormult kx_unitvector kx_vector_normalize
-//   kx_normalvector3d kx_projectvector kx_projectednormal kx_line_to_vector_3d kx_normal_to_plane kx_line_to_vector_2d
-//   kx_arc_pntcount kx_arcpnts_2d kx_circlepnts_2d kx_arc_bulge_2d kx_bulgepnts_2d kx_ellipsepnts_2d kx_elliptic_arc_2d
 // Left out, message box: kx_normalizeplane kx_parallelplanes kx_normallineeqspace
 #include "batch.hpp"
 
@@ -24,6 +19,37 @@ void geometry() {
           kx_vector_dot, kx_vectorlength, kx_vector_len, kx_vector_sqlen, kx_vector_pnt, kx_get_point_on_line,
           kx_crossproduct_3d, kx_vectorlength_3d, kx_vectormult_3d, kx_unitvector_3d, kx_normalvector_3d,
           kx_projectvector_3d, kx_projectednormal_3d);
+  NEAR(kx_angletwolines);
+  NEAR(kx_angle_lines_deg);
+  NEAR(kx_angle_lines_rad);
+  NEAR(kx_arcangle);
+  NEAR(kx_angleparmtan);
+  NEAR(kx_pntangledist);
+  NEAR(kx_pntangledist_3d);
+  NEAR(kx_vectordirection);
+  NEAR(kx_angletwoplanes);
+  NEAR(kx_anglelineplane);
+  NEAR(kx_anglelinesspace);
+  NEAR(kx_vectoradd);
+  NEAR(kx_vector_add);
+  NEAR(kx_vector_sub);
+  NEAR(kx_vector_neg);
+  NEAR(kx_vectormult);
+  NEAR(kx_unitvector);
+  NEAR(kx_vector_normalize);
+  NEAR(kx_normalvector3d);
+  NEAR(kx_projectvector);
+  NEAR(kx_projectednormal);
+  NEAR(kx_line_to_vector_3d);
+  NEAR(kx_normal_to_plane);
+  NEAR(kx_line_to_vector_2d);
+  NEAR(kx_arc_pntcount);
+  NEAR(kx_arcpnts_2d);
+  NEAR(kx_circlepnts_2d);
+  NEAR(kx_arc_bulge_2d);
+  NEAR(kx_bulgepnts_2d);
+  NEAR(kx_ellipsepnts_2d);
+  NEAR(kx_elliptic_arc_2d);
 }
 
 }  // namespace digest

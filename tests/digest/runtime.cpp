@@ -1,6 +1,3 @@
-// Left out, transcendental: kx_secant kx_cosecant kx_cotangent kx_arcsin kx_arccos kx_arctan kx_arccotangent
-//   kx_arcsecant kx_arccosecant kx_hsine kx_hcosine kx_htangent kx_hsecant kx_hcosecant kx_hcotangent kx_archsine
-//   kx_archcosine kx_archtangent kx_archcotangent kx_archsecant kx_archcosecant kx_parmtanhangle
 // Left out, message box: kx_memerr kx_display_msg
 // Left out, file: kx_get_message kx_open_file kx_close_file kx_write_file kx_read_file kx_flush_file kx_seek_file
 #include "batch.hpp"
@@ -15,6 +12,28 @@ void runtime() {
   batches(kx_imax, kx_imin, kx_gcd, kx_degrees, kx_radian, kx_exchange, kx_sumsqrdparms, kx_quadratic_eq);
   batches(kx_quadrant, kx_quadrant_deg, kx_quadrant_rad, kx_quadrant_pnt, kx_octant, kx_octant_deg, kx_octant_rad,
           kx_octant_pnt);
+  NEAR(kx_secant);
+  NEAR(kx_cosecant);
+  NEAR(kx_cotangent);
+  NEAR(kx_arcsin);
+  NEAR(kx_arccos);
+  NEAR(kx_arctan);
+  NEAR(kx_arccotangent);
+  NEAR(kx_arcsecant);
+  NEAR(kx_arccosecant);
+  NEAR(kx_hsine);
+  NEAR(kx_hcosine);
+  NEAR(kx_htangent);
+  NEAR(kx_hsecant);
+  NEAR(kx_hcosecant);
+  NEAR(kx_hcotangent);
+  NEAR(kx_archsine);
+  NEAR(kx_archcosine);
+  NEAR(kx_archtangent);
+  NEAR(kx_archcotangent);
+  NEAR(kx_archsecant);
+  NEAR(kx_archcosecant);
+  NEAR(kx_parmtanhangle);
 }
 
 void strings() {
