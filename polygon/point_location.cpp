@@ -66,10 +66,10 @@ class shelves {
     const std::int32_t first = first_not_below(from), last = first_above(to);
     if (first >= last) return;
     // How far beside its carrier's abscissa a point can be and still be no further than the tolerance from the edge;
-    // and some room for rounding. What is NaN is near.
+    // and some room for rounding. Beside a level edge all are near, and what is NaN is.
     const double slope = std::fabs((b.x - a.x) * edge.inverse);
     const double size = std::fabs(edge.left) + std::fabs(edge.right) + std::fabs(edge.bottom) + std::fabs(edge.top);
-    const double reach = (1.0 + slope) * (3.0 * kx::tolerance + 1e-14 * size);
+    const double reach = a.y == b.y ? HUGE_VAL : (1.0 + slope) * (3.0 * kx::tolerance + 1e-14 * size);
     std::int64_t near = 0;
     const double *x = x_.data(), *y = y_.data();
     std::int64_t *state = state_.data();

@@ -13,7 +13,7 @@ namespace kx {
 // make no difference, to the last bit. Nothing branches: which edges are met is random.
 struct ray_edge {
   vec2 a, b;
-  double bottom, top, left, right, inverse;  // inverse of the height, with its sign
+  double bottom, top, left, right, inverse;  // inverse of the height, with its sign; 1 of a level edge
 
   ray_edge(vec2 from, vec2 to)
       : a(from),
@@ -22,9 +22,9 @@ struct ray_edge {
         top(a.y > b.y ? a.y : b.y),
         left(a.x < b.x ? a.x : b.x),
         right(a.x > b.x ? a.x : b.x),
-        inverse(1.0 / (b.y - a.y)) {}
+        inverse(1.0 / (b.y == a.y ? 1.0 : b.y - a.y)) {}
 
-  // Where the edge's carrier stands at a height.
+  // Where the edge's carrier stands at a height, unless the edge is level.
   double abscissa(double y) const { return (a.x * (b.y - y) + b.x * (y - a.y)) * inverse; }
 
   // Whether the ray from p crosses. An edge of next to no height has no useful carrier: its ends limit what that says.

@@ -30,7 +30,7 @@ namespace sweep {
 namespace {
 
 constexpr double most_seconds = 1.0;
-constexpr int usual_rounds = 24, special_rounds = 3, fault_rounds = 4, most_faults = 60;
+constexpr int usual_rounds = 150, special_rounds = 3, fault_rounds = 4, most_faults = 60;
 
 struct run {
   int seed = 0, parameter = -1, special = -1;

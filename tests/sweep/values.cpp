@@ -9,7 +9,7 @@ namespace sweep {
 void *new_block(std::size_t bytes) { return kx_create_char_array(static_cast<std::int32_t>(bytes)); }
 
 void set_usual(double &value, draw &d) { value = d.number(); }
-void set_usual(std::int32_t &value, draw &d) { value = 1 + d.below(4); }
+void set_usual(std::int32_t &value, draw &d) { value = d.below(6); }
 
 int field_specials(const std::vector<field> &fields) {
   int n = 0;
