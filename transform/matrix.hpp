@@ -65,11 +65,13 @@ matrix<N> scaling(const double (&factor)[N - 1], const double (&fixed)[N - 1]) {
   return e;
 }
 
-// Row u shears column v: coordinate v grows by factor times coordinate u.
+// Coordinate u shears the others: each grows by its factor times coordinate u, in the order of the axes.
 template <int N>
-matrix<N> shear(int u, int v, double factor) {
+matrix<N> shear(int u, const double (&factor)[N - 2]) {
   matrix<N> e = identity<N>();
-  e.m[u][v] = factor;
+  for (int v = 0, next = 0; v < N - 1; ++v) {
+    if (v != u) e.m[u][v] = factor[next++];
+  }
   return e;
 }
 
@@ -77,6 +79,7 @@ matrix<N> shear(int u, int v, double factor) {
 struct turn {
   explicit turn(double angle_deg)
       : s(std::sin(angle_deg * radians_per_degree)), c(std::cos(angle_deg * radians_per_degree)) {}
+  turn(double sine, double cosine) : s(sine), c(cosine) {}
   double s, c;
 };
 
@@ -98,11 +101,55 @@ inline void drop_small_factors(double (&factor)[2]) {
   if (factor[0] <= tolerance && factor[1] <= tolerance) factor[0] = factor[1] = 1.0;
 }
 
+// Space drops each small factor by itself, negative ones included: a body is neither flattened nor mirrored by scaling.
+inline void drop_small_factors(double (&factor)[3]) {
+  for (double &f : factor) {
+    if (f <= tolerance) f = 1.0;
+  }
+}
+
 inline pnt_2d transformed(const double *m, pnt_2d p) {
   return {m[0] * p.x + m[3] * p.y + m[6], m[1] * p.x + m[4] * p.y + m[7]};
 }
 
+inline pnt_3d transformed(const double *m, pnt_3d p) {
+  return {m[0] * p.x + m[4] * p.y + m[8] * p.z + m[12],  //
+          m[1] * p.x + m[5] * p.y + m[9] * p.z + m[13],  //
+          m[2] * p.x + m[6] * p.y + m[10] * p.z + m[14]};
+}
+
 inline double det22(double a, double b, double c, double d) { return a * d - b * c; }
+
+// Row by row.
+inline double det33(double a, double b, double c, double d, double e, double f, double g, double h, double i) {
+  return a * (e * i - f * h) - d * (b * i - c * h) + g * (b * f - c * e);
+}
+
+// The determinant of what a space matrix has outside row r and column c.
+inline double minor33(const double *m, int r, int c) {
+  const double *row[3];
+  int col[3];
+  for (int i = 0; i < 3; ++i) {
+    row[i] = m + 4 * (i < r ? i : i + 1);
+    col[i] = i < c ? i : i + 1;
+  }
+  return det33(row[0][col[0]], row[0][col[1]], row[0][col[2]],  //
+               row[1][col[0]], row[1][col[1]], row[1][col[2]],  //
+               row[2][col[0]], row[2][col[1]], row[2][col[2]]);
+}
+
+inline matrix<4> adjugate(const double *m) {
+  matrix<4> out;
+  for (int r = 0; r < 4; ++r) {
+    for (int c = 0; c < 4; ++c) out.m[c][r] = (r + c) % 2 ? -minor33(m, r, c) : minor33(m, r, c);
+  }
+  return out;
+}
+
+// By the first row, in two pairs.
+inline double det44(const double *m) {
+  return (m[0] * minor33(m, 0, 0) - m[1] * minor33(m, 0, 1)) + (m[2] * minor33(m, 0, 2) - m[3] * minor33(m, 0, 3));
+}
 
 // The map of a window onto a viewport.
 struct window_map {

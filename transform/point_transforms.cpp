@@ -17,7 +17,7 @@ pnt_2d *transformed_copy(const double *m, const pnt_2d &p) {
 poly_2d *transformed_copy(const double *m, const poly_2d &p) {
   auto *copy = kx::create<poly_2d>("transfpolygon");
   if (!copy) return nullptr;
-  const pnt_2d image = kx::transformed(m, {p.x, p.y});
+  const pnt_2d image = kx::transformed(m, pnt_2d{p.x, p.y});
   *copy = {p.seqnr, image.x, image.y};
   return copy;
 }
@@ -40,8 +40,16 @@ void KX_CALL kx_transformpnt2d(const double *m, const pnt_2d *in, pnt_2d *out) {
   if (m && in && out) *out = kx::transformed(m, *in);
 }
 
+void KX_CALL kx_transformpnt3d(const double *m, const pnt_3d *in, pnt_3d *out) {
+  if (m && in && out) *out = kx::transformed(m, *in);
+}
+
 void KX_CALL kx_translatepnt2d(const pnt_2d *in, double dx, double dy, pnt_2d *out) {
   if (in && out) *out = {in->x + dx, in->y + dy};
+}
+
+void KX_CALL kx_translatepnt3d(const pnt_3d *in, double dx, double dy, double dz, pnt_3d *out) {
+  if (in && out) *out = {in->x + dx, in->y + dy, in->z + dz};
 }
 
 void KX_CALL kx_rotatepnt2d(double angle_deg, const pnt_2d *center, const pnt_2d *in, pnt_2d *out) {
@@ -55,11 +63,41 @@ void KX_CALL kx_rotatepnt2d(double angle_deg, const pnt_2d *center, const pnt_2d
   *out = {(p.x - o.x) * t.c + o.x - (p.y - o.y) * t.s, (p.y - o.y) * t.c + (p.x - o.x) * t.s + o.y};
 }
 
+void KX_CALL kx_rotatepnt3d(int32_t axis, double angle_deg, const line_3d *axis_line, const pnt_3d *in, pnt_3d *out) {
+  if (!in || !out) return;
+  const pnt_3d p = *in;
+  if (std::fabs(angle_deg) <= kx::tolerance) {
+    *out = p;
+    return;
+  }
+  if (axis == 3) {
+    kx::matrix<4> m = kx::identity<4>();
+    kx_rotationmatrix3d(axis, angle_deg, axis_line, &m.m[0][0]);  // stays the identity when the line has no length
+    *out = kx::transformed(&m.m[0][0], p);
+    return;
+  }
+  const kx::turn t(angle_deg);
+  switch (axis) {
+    case 1: *out = {t.s * p.z + t.c * p.x, p.y, t.c * p.z - t.s * p.x}; break;
+    case 2: *out = {t.c * p.x - t.s * p.y, t.s * p.x + t.c * p.y, p.z}; break;
+    default: *out = {p.x, t.c * p.y - t.s * p.z, t.s * p.y + t.c * p.z};
+  }
+}
+
 void KX_CALL kx_scalepnt2d(double sx, double sy, const pnt_2d *fixed, const pnt_2d *in, pnt_2d *out) {
   if (!fixed || !in || !out) return;
   double factor[2] = {sx, sy};
   kx::drop_small_factors(factor);
   *out = {(1.0 - factor[0]) * fixed->x + factor[0] * in->x, (1.0 - factor[1]) * fixed->y + factor[1] * in->y};
+}
+
+int32_t KX_CALL kx_scalepnt3d(double sx, double sy, double sz, const pnt_3d *fixed, const pnt_3d *in, pnt_3d *out) {
+  if (!fixed || !in || !out) return 0;
+  double factor[3] = {sx, sy, sz};
+  kx::drop_small_factors(factor);
+  *out = {(1.0 - factor[0]) * fixed->x + factor[0] * in->x, (1.0 - factor[1]) * fixed->y + factor[1] * in->y,
+          (1.0 - factor[2]) * fixed->z + factor[2] * in->z};
+  return 0;
 }
 
 list_hdr *KX_CALL kx_transfpolygon(const double *m, list_hdr *polygon) {

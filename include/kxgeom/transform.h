@@ -38,12 +38,32 @@ KX_API void KX_CALL kx_getidmatrix3d(double *matrix);
 KX_API void KX_CALL kx_translatematrix2d(double dx, double dy, double *matrix);
 
 /**
+ * Adds a move by (dx, dy, dz) after what the matrix does already.
+ * @param[in] dx,dy,dz  the move
+ * @param[in,out] matrix  16 doubles; null does nothing
+ */
+KX_API void KX_CALL kx_translatematrix3d(double dx, double dy, double dz, double *matrix);
+
+/**
  * Adds a rotation about a centre, counter-clockwise, after what the matrix does already.
  * @param[in] angle_deg  the angle in degrees; every value counts, however small
  * @param[in] center  the point that stays
  * @param[in,out] matrix  9 doubles; does nothing when this or center is null
  */
 KX_API void KX_CALL kx_rotationmatrix2d(double angle_deg, const pnt_2d *center, double *matrix);
+
+/**
+ * Adds a rotation about an axis after what the matrix does already, counter-clockwise for one who looks against the
+ * axis.
+ * A line along x is the exception: it turns by the axis +x through its first point, also when it points along -x.
+ * @param[in] axis  1: about y; 2: about z; 3: about axis_line; 0 and any other: about x
+ * @param[in] angle_deg  the angle in degrees; every value counts, however small
+ * @param[in] axis_line  the directed line of axis 3, from its first point to its second; not read for the others
+ * @param[in,out] matrix  16 doubles; null does nothing, 0
+ * @return 0; 57 when axis is 3 and the line's points are within 1e-7 of each other, or the line is null (matrix
+ *   untouched)
+ */
+KX_API int32_t KX_CALL kx_rotationmatrix3d(int32_t axis, double angle_deg, const line_3d *axis_line, double *matrix);
 
 /**
  * Adds a scaling about a fixed point after what the matrix does already.
@@ -56,12 +76,31 @@ KX_API void KX_CALL kx_rotationmatrix2d(double angle_deg, const pnt_2d *center, 
 KX_API void KX_CALL kx_scalematrix2d(double sx, double sy, const pnt_2d *fixed, double *matrix);
 
 /**
+ * Adds a scaling about a fixed point after what the matrix does already.
+ * Each factor that is 1e-7 or less, negative ones included, is taken as 1 by itself; the plane's rule differs.
+ * @param[in] sx,sy,sz  the factors along x, y and z
+ * @param[in] fixed  the point that stays
+ * @param[in,out] matrix  16 doubles; does nothing when this or fixed is null
+ * @return 0 always
+ */
+KX_API int32_t KX_CALL kx_scalematrix3d(double sx, double sy, double sz, const pnt_3d *fixed, double *matrix);
+
+/**
  * Adds a shear after what the matrix does already.
  * @param[in] mode  1: y' = y + factor*x; any other: x' = x + factor*y
  * @param[in] factor  how much
  * @param[in,out] matrix  9 doubles; null does nothing
  */
 KX_API void KX_CALL kx_shearmatrix2d(int32_t mode, double factor, double *matrix);
+
+/**
+ * Adds a shear after what the matrix does already.
+ * @param[in] mode  1: x' = x + f1*y, z' = z + f2*y; 2: x' = x + f1*z, y' = y + f2*z; any other: y' = y + f1*x,
+ *   z' = z + f2*x
+ * @param[in] f1,f2  how much
+ * @param[in,out] matrix  16 doubles; null does nothing
+ */
+KX_API void KX_CALL kx_shearmatrix3d(int32_t mode, double f1, double f2, double *matrix);
 
 /**
  * Adds a reflection after what the matrix does already.
@@ -71,6 +110,13 @@ KX_API void KX_CALL kx_shearmatrix2d(int32_t mode, double factor, double *matrix
  */
 KX_API void KX_CALL kx_reflectmatrix2d(int32_t mode, double *matrix);
 
+/**
+ * Adds a reflection in a coordinate plane after what the matrix does already.
+ * @param[in] mode  1: y' = -y; 2: z' = -z; any other: x' = -x
+ * @param[in,out] matrix  16 doubles; null does nothing
+ */
+KX_API void KX_CALL kx_reflectmatrix3d(int32_t mode, double *matrix);
+
 /* ---- matrices ---- */
 
 /**
@@ -79,6 +125,29 @@ KX_API void KX_CALL kx_reflectmatrix2d(int32_t mode, double *matrix);
  * @param[in,out] b  9 doubles; does nothing when either is null
  */
 KX_API void KX_CALL kx_mat33mult(const double *a, double *b);
+
+/**
+ * Multiplies two space matrices: b becomes b*a, which does what b did and then what a does.
+ * @param[in] a  16 doubles; not b, which is written while this is read
+ * @param[in,out] b  16 doubles; does nothing when either is null
+ */
+KX_API void KX_CALL kx_mat44mult(const double *a, double *b);
+
+/**
+ * Multiplies two space matrices into a third: c becomes a*b, summed up in place.
+ * @param[in] a,b  16 doubles each
+ * @param[in,out] c  16 doubles; neither a nor b, which are read while this is written; does nothing when any is null
+ */
+KX_API void KX_CALL kx_mat_mult(const double *a, const double *b, double *c);
+
+/**
+ * Multiplies a homogeneous row vector by a space matrix: out(j) is the sum over k of v(k)*m(k, j). The one function
+ * that uses the last column.
+ * @param[in] m  16 doubles
+ * @param[in] v  4 doubles
+ * @param[out] out  4 doubles; may be v; does nothing when any is null
+ */
+KX_API void KX_CALL kx_mult_vector(const double *m, const double *v, double *out);
 
 /**
  * Copies a plane matrix.
@@ -102,12 +171,49 @@ KX_API void KX_CALL kx_movematrix3d(const double *from, double *to);
 KX_API double KX_CALL kx_get_det22(double a, double b, double c, double d);
 
 /**
+ * The determinant of the matrix with the rows (a, b, c), (d, e, f) and (g, h, i).
+ * @param[in] a,b,c,d,e,f,g,h,i  the nine elements, row by row
+ * @return the determinant, expanded by the first column
+ */
+KX_API double KX_CALL kx_get_det33(double a, double b, double c, double d, double e, double f, double g, double h,
+                                   double i);
+
+/**
+ * The determinant of a space matrix.
+ * @param[in] m  16 doubles
+ * @return the determinant, expanded by the first row; 0.0 for null
+ */
+KX_API double KX_CALL kx_get_det44(const double *m);
+
+/**
+ * The adjugate of a space matrix: its transposed cofactors. m times it is the determinant times the identity.
+ * @param[in] m  16 doubles
+ * @param[out] out  16 doubles; may be m; untouched when either is null
+ */
+KX_API void KX_CALL kx_get_adjoint_matrix3d(const double *m, double *out);
+
+/**
  * Inverts a plane matrix.
  * @param[in] m  9 doubles; may be out
  * @param[out] out  9 doubles: the inverse; on 1 the adjugate of m, not divided by the determinant
  * @return 0; 1 when the determinant is within 1e-7 of zero, or an argument is null (out untouched)
  */
 KX_API int32_t KX_CALL kx_getinversematrix2d(const double *m, double *out);
+
+/**
+ * Inverts a space matrix.
+ * @param[in] m  16 doubles; may be out
+ * @param[out] out  16 doubles: the inverse; on 1 the adjugate of m, not divided by the determinant
+ * @return 0; 1 when the determinant is within 1e-7 of zero, or an argument is null (out untouched)
+ */
+KX_API int32_t KX_CALL kx_getinversematrix3d(const double *m, double *out);
+
+/**
+ * The reciprocal of a number.
+ * @param[in] x  the number
+ * @return 1/x; 0.0 when x is within 1e-7 of zero, and for NaN
+ */
+KX_API double KX_CALL kx_inverse(double x);
 
 /* ---- point transforms ---- */
 
@@ -120,12 +226,28 @@ KX_API int32_t KX_CALL kx_getinversematrix2d(const double *m, double *out);
 KX_API void KX_CALL kx_transformpnt2d(const double *m, const pnt_2d *in, pnt_2d *out);
 
 /**
+ * Applies a space matrix to a point.
+ * @param[in] m  16 doubles
+ * @param[in] in  the point
+ * @param[out] out  its image; may be in; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_transformpnt3d(const double *m, const pnt_3d *in, pnt_3d *out);
+
+/**
  * Moves a point by (dx, dy).
  * @param[in] in  the point
  * @param[in] dx,dy  the move
  * @param[out] out  the moved point; may be in; untouched when an argument is null
  */
 KX_API void KX_CALL kx_translatepnt2d(const pnt_2d *in, double dx, double dy, pnt_2d *out);
+
+/**
+ * Moves a point by (dx, dy, dz).
+ * @param[in] in  the point
+ * @param[in] dx,dy,dz  the move
+ * @param[out] out  the moved point; may be in; untouched when an argument is null
+ */
+KX_API void KX_CALL kx_translatepnt3d(const pnt_3d *in, double dx, double dy, double dz, pnt_3d *out);
 
 /**
  * Turns a point counter-clockwise about a centre.
@@ -137,6 +259,18 @@ KX_API void KX_CALL kx_translatepnt2d(const pnt_2d *in, double dx, double dy, pn
 KX_API void KX_CALL kx_rotatepnt2d(double angle_deg, const pnt_2d *center, const pnt_2d *in, pnt_2d *out);
 
 /**
+ * Turns a point about an axis, in the sense of kx_rotationmatrix3d.
+ * @param[in] axis  1: about y; 2: about z; 3: about axis_line; 0 and any other: about x
+ * @param[in] angle_deg  the angle in degrees; one within 1e-7 of zero gives an exact copy
+ * @param[in] axis_line  the directed line of axis 3; null, or with its points within 1e-7 of each other, it turns
+ *   nothing
+ * @param[in] in  the point
+ * @param[out] out  the turned point; may be in; untouched when in or out is null
+ */
+KX_API void KX_CALL kx_rotatepnt3d(int32_t axis, double angle_deg, const line_3d *axis_line, const pnt_3d *in,
+                                   pnt_3d *out);
+
+/**
  * Scales a point about a fixed point, with the factor rule of kx_scalematrix2d.
  * @param[in] sx,sy  the factors along x and y
  * @param[in] fixed  the point that stays
@@ -144,6 +278,17 @@ KX_API void KX_CALL kx_rotatepnt2d(double angle_deg, const pnt_2d *center, const
  * @param[out] out  the scaled point; may be in or fixed; untouched when an argument is null
  */
 KX_API void KX_CALL kx_scalepnt2d(double sx, double sy, const pnt_2d *fixed, const pnt_2d *in, pnt_2d *out);
+
+/**
+ * Scales a point about a fixed point, with the factor rule of kx_scalematrix3d.
+ * @param[in] sx,sy,sz  the factors along x, y and z
+ * @param[in] fixed  the point that stays
+ * @param[in] in  the point
+ * @param[out] out  the scaled point; may be in or fixed; untouched when an argument is null
+ * @return 0 always
+ */
+KX_API int32_t KX_CALL kx_scalepnt3d(double sx, double sy, double sz, const pnt_3d *fixed, const pnt_3d *in,
+                                     pnt_3d *out);
 
 /**
  * Copies a list of plane points through a plane matrix. The first item's kind decides for the list: of pnt_2d and
