@@ -118,6 +118,17 @@ inline pnt_3d transformed(const double *m, pnt_3d p) {
           m[2] * p.x + m[6] * p.y + m[10] * p.z + m[14]};
 }
 
+// Vertices keep their numbers.
+inline poly_2d transformed(const double *m, const poly_2d &p) {
+  const pnt_2d image = transformed(m, pnt_2d{p.x, p.y});
+  return {p.seqnr, image.x, image.y};
+}
+
+inline poly_3d transformed(const double *m, const poly_3d &p) {
+  const pnt_3d image = transformed(m, pnt_3d{p.x, p.y, p.z});
+  return {p.seqnr, image.x, image.y, image.z};
+}
+
 inline double det22(double a, double b, double c, double d) { return a * d - b * c; }
 
 // Row by row.

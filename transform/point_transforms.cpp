@@ -7,30 +7,30 @@
 
 namespace {
 
-// A point record's image as a new record.
-pnt_2d *transformed_copy(const double *m, const pnt_2d &p) {
-  auto *copy = kx::create<pnt_2d>("transfpolygon");  // without the prefix: the text hosts have always shown
-  if (copy) *copy = kx::transformed(m, p);
-  return copy;
-}
+// What is said when there is no memory for a record, and after the list's own message when there is none for its item;
+// null says nothing.
+struct memory_texts {
+  const char *record, *item;
+};
 
-poly_2d *transformed_copy(const double *m, const poly_2d &p) {
-  auto *copy = kx::create<poly_2d>("transfpolygon");
-  if (!copy) return nullptr;
-  const pnt_2d image = kx::transformed(m, pnt_2d{p.x, p.y});
-  *copy = {p.seqnr, image.x, image.y};
-  return copy;
-}
-
-// Appends the images of all items of the list's kind; what finds no memory is reported and left out.
+// Appends the images of all items of the list's kind that are there now; what finds no memory is left out.
 template <class Record>
-void append_images(const double *m, const list_hdr &from, int32_t tag, const char *append_location, list_hdr &to) {
+void append_images(const double *m, const list_hdr &from, int32_t tag, memory_texts texts, list_hdr &to) {
+  const list_item *last = from.tail;  // the images may follow it
   for (list_item &item : kx::items(&from)) {
-    if (!kx::readable_as(item, tag)) continue;
-    Record *copy = transformed_copy(m, *static_cast<const Record *>(item.data));
-    if (!copy || kx::append(to, copy, tag)) continue;
-    kx_memerr(append_location);
-    kx::release(copy);
+    if (kx::readable_as(item, tag)) {
+      auto *image = static_cast<Record *>(kx::allocate(sizeof(Record)));
+      if (image) {
+        *image = kx::transformed(m, *static_cast<const Record *>(item.data));
+        if (!kx::append(to, image, tag)) {
+          if (texts.item) kx_memerr(texts.item);
+          kx::release(image);
+        }
+      } else if (texts.record) {
+        kx_memerr(texts.record);
+      }
+    }
+    if (&item == last) break;
   }
 }
 
@@ -105,10 +105,37 @@ list_hdr *KX_CALL kx_transfpolygon(const double *m, list_hdr *polygon) {
   auto *images = kx::create<list_hdr>("ll_create_list");
   if (!images) return nullptr;
   polygon->current = polygon->head;
+  // The record's text stands without the prefix: hosts have always shown it so.
   switch (kx::datatype(polygon)) {
-    case KX_PNT_2D: append_images<pnt_2d>(m, *polygon, KX_PNT_2D, "kx_transfpolygon - 3", *images); break;
-    case KX_POLY_2D: append_images<poly_2d>(m, *polygon, KX_POLY_2D, "kx_transfpolygon - 2", *images); break;
+    case KX_PNT_2D:
+      append_images<pnt_2d>(m, *polygon, KX_PNT_2D, {"transfpolygon", "kx_transfpolygon - 3"}, *images);
+      break;
+    case KX_POLY_2D:
+      append_images<poly_2d>(m, *polygon, KX_POLY_2D, {"transfpolygon", "kx_transfpolygon - 2"}, *images);
+      break;
     default: break;  // every other kind gives an empty list, on purpose: the host tells by its count
   }
   return images;
+}
+
+void KX_CALL kx_transform_pnt_set(const double *m, list_hdr *in, list_hdr *out) {
+  if (!m || kx::empty(in) || !out) return;
+  in->current = in->head;
+  append_images<poly_3d>(m, *in, KX_POLY_3D, {"kx_create_poly_3D", nullptr}, *out);
+}
+
+list_hdr *KX_CALL kx_transform_polyline_3d(const double *m, list_hdr *polyline) {
+  if (!m || kx::empty(polyline)) return nullptr;
+  auto *images = kx::create<list_hdr>("ll_create_list");
+  if (!images) return nullptr;
+  polyline->current = polyline->head;
+  // A record without memory is left out silently, on purpose: the host compares the counts.
+  switch (kx::datatype(polyline)) {
+    case KX_PNT_3D: append_images<pnt_3d>(m, *polyline, KX_PNT_3D, {}, *images); break;
+    case KX_POLY_3D: append_images<poly_3d>(m, *polyline, KX_POLY_3D, {}, *images); break;
+    default: break;
+  }
+  if (images->head) return images;
+  kx::release(images);
+  return nullptr;
 }

@@ -301,6 +301,107 @@ KX_API int32_t KX_CALL kx_scalepnt3d(double sx, double sy, double sz, const pnt_
  */
 KX_API list_hdr *KX_CALL kx_transfpolygon(const double *m, list_hdr *polygon);
 
+/**
+ * Appends the images of space vertices to another list. Every item of in is read as a poly_3d, whatever its tag, and
+ * copied with its seqnr, as tag 63; one without data, or known to be a smaller record, is passed over. A vertex that
+ * finds no memory is reported as "kx_create_poly_3D", or by the list, and left out, the others follow.
+ * @param[in] m  16 doubles
+ * @param[in,out] in  the vertices; the current item ends at the head
+ * @param[in,out] out  the list that grows; its current item ends at the last image. May be in, whose images then follow
+ *   it; does nothing when any argument is null
+ */
+KX_API void KX_CALL kx_transform_pnt_set(const double *m, list_hdr *in, list_hdr *out);
+
+/**
+ * Copies a list of space points through a space matrix. The first item's kind decides for the list: of pnt_3d and
+ * poly_3d every item with data is copied (its seqnr kept). A record that finds no memory is left out without a message.
+ * @param[in] m  16 doubles
+ * @param[in,out] polyline  the points; the current item ends at the head
+ * @return the new list, its current item the last, to be freed by kx_purge_polygon; null when nothing came into it: the
+ *   input is null, empty or of another kind, m is null, or there is no memory
+ */
+KX_API list_hdr *KX_CALL kx_transform_polyline_3d(const double *m, list_hdr *polyline);
+
+/* ---- matrix store ---- */
+
+/**
+ * Stores a plane matrix under a number. The search goes from the current item to the tail; the first record of that
+ * number takes the matrix and becomes current. When there is none, the last record takes the number and the matrix and
+ * is appended to the list once more, as the current item; a store without records gets a new one.
+ * @param[in,out] store  a list of matrixrec2d
+ * @param[in] id  the number
+ * @param[in] matrix  9 doubles
+ * @return 0 stored; 1 store or matrix is null; 80 after a memory message ("kx_create_matrixrec2d" and
+ *   "kx_storematrix2d", or the list's), the records unchanged
+ */
+KX_API int32_t KX_CALL kx_storematrix2d(list_hdr *store, int32_t id, const double *matrix);
+
+/**
+ * Stores a space matrix under a number, as kx_storematrix2d, but a match on the last item is appended once more, too.
+ * @param[in,out] store  a list of matrixrec3d
+ * @param[in] id  the number
+ * @param[in] matrix  16 doubles
+ * @return 0 stored; 1 store or matrix is null; 80 after a memory message ("kx_create_matrixrec3d" and
+ *   "storematrix3d", or the list's), the records unchanged
+ */
+KX_API int32_t KX_CALL kx_storematrix3d(list_hdr *store, int32_t id, const double *matrix);
+
+/**
+ * Reads a plane matrix back. The search goes from head to tail.
+ * @param[in,out] store  a list of matrixrec2d; the record found becomes current, the head when there is none
+ * @param[in] id  the number
+ * @param[out] out  9 doubles; untouched on 1
+ * @return 0 found; 1 no such number, the store is null or empty, or out is null
+ */
+KX_API int32_t KX_CALL kx_restorematrix2d(list_hdr *store, int32_t id, double *out);
+
+/**
+ * Reads a space matrix back. The search goes from head to tail.
+ * @param[in,out] store  a list of matrixrec3d; the record found becomes current, the head when there is none
+ * @param[in] id  the number
+ * @param[out] out  16 doubles; untouched on 1
+ * @return 0 found; 1 no such number, the store is null or empty, or out is null
+ */
+KX_API int32_t KX_CALL kx_restorematrix3d(list_hdr *store, int32_t id, double *out);
+
+/**
+ * Frees a store with all its records; one that hangs in it more than once is freed once.
+ * @param[in] store  the store, of either kind; left as it is on 6
+ * @return 0 freed; 6 null or empty
+ */
+KX_API int32_t KX_CALL kx_disposematrix2d(list_hdr *store);
+
+/**
+ * The same function as kx_disposematrix2d.
+ * @param[in] store  the store, of either kind; left as it is on 6
+ * @return 0 freed; 6 null or empty
+ */
+KX_API int32_t KX_CALL kx_disposematrix3d(list_hdr *store);
+
+/* ---- band solver ---- */
+
+/**
+ * Factors a band matrix into L*U in place, without pivoting; made for the diagonally dominant systems of curve
+ * interpolation. With n 1 or m 0 nothing is done.
+ * @param[in,out] band[n*(2*m+1)]  n rows: element (i, j), counted from 0, at i*(2m+1) + m + (j-i); what lies
+ * outside of the matrix is not touched. Afterwards L (its diagonal of ones not stored) and U; half done on 1
+ * @param[in] n  rows, 1 or more
+ * @param[in] m  half-bandwidth, 0 or more; may be n or more
+ * @return 0; 1 when a pivot is within 1e-11 of zero, n or m is out of range, or band is null
+ */
+KX_API int32_t KX_CALL kx_ludecomposition(double *band, int32_t n, int32_t m);
+
+/**
+ * Solves a band system that kx_ludecomposition has factored. Pivots are not tested: one of zero gives infinities or
+ * NaN.
+ * @param[in] band[n*(2*m+1)]  the factors
+ * @param[in] n,m  rows and half-bandwidth, as for kx_ludecomposition; out of range nothing is done
+ * @param[in,out] b[n]  the right-hand side; overwritten by the forward substitution
+ * @param[out] x[n]  the solution; may be b
+ * @return 0 always, also when a pointer is null and nothing is done
+ */
+KX_API int32_t KX_CALL kx_forbacksubstitution(const double *band, int32_t n, int32_t m, double *b, double *x);
+
 /* ---- viewing ---- */
 
 /**

@@ -1,6 +1,43 @@
+#include <vector>
+
 #include "batch.hpp"
 
 namespace digest {
+namespace {
+
+template <class Store, class Restore, class Dispose>
+void matrix_store(Store store, Restore restore, Dispose dispose) {
+  list_hdr *list = ll_create_list();
+  for (int n = 0; n < 40; ++n) {
+    double matrix[16];
+    for (double &value : matrix) value = number();
+    hash(ll_set_list_currpntr(list, below(4)));
+    hash(store(list, below(6), matrix));
+    hash(restore(list, below(6), matrix));
+    for (const double value : matrix) hash(value);
+    hash(ll_get_list_count(list));
+  }
+  hash(dispose(list));
+}
+
+void band_systems() {
+  wild = false;
+  for (int m = 0; m <= 7; ++m) {
+    for (const std::int32_t n : {1, 3, 20, 1500}) {
+      std::vector<double> band(static_cast<std::size_t>(n * (2 * m + 1))), b(static_cast<std::size_t>(n)), x = b;
+      for (double &value : band) value = number();
+      for (std::int32_t i = 0; i < n; ++i) band[static_cast<std::size_t>(i * (2 * m + 1) + m)] += 2000.0 * (m + 1);
+      for (double &value : b) value = number();
+      hash(kx_ludecomposition(band.data(), n, m));
+      hash(kx_forbacksubstitution(band.data(), n, m, b.data(), x.data()));
+      for (const auto &values : {band, b, x}) {
+        for (const double value : values) hash(value);
+      }
+    }
+  }
+}
+
+}  // namespace
 
 void transform() {
   batches(kx_getidmatrix2d, kx_getidmatrix3d, kx_translatematrix2d, kx_scalematrix2d, kx_shearmatrix2d,
@@ -13,6 +50,10 @@ void transform() {
   NEAR(kx_rotationmatrix3d);
   NEAR(kx_rotatepnt2d);
   NEAR(kx_rotatepnt3d);
+  batches(kx_transform_polyline_3d, kx_transform_pnt_set);
+  matrix_store(kx_storematrix2d, kx_restorematrix2d, kx_disposematrix2d);
+  matrix_store(kx_storematrix3d, kx_restorematrix3d, kx_disposematrix3d);
+  band_systems();
 }
 
 }  // namespace digest

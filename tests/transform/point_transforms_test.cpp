@@ -29,6 +29,37 @@ TEST(PointTransforms, AgreeWithTheBuiltMatrixAlsoInPlace) {
   }
 }
 
+TEST(PointTransforms, OfSpaceAgreeWithTheBuiltMatrixAlsoInPlace) {
+  const pnt_3d fixed{1, -2, 3}, p{4, 5, -6};
+  const line_3d line{1, 2, 3, 4, -5, 6}, dot{1, 2, 3, 1, 2, 3};
+  const auto check = [&](const double *m, const pnt_3d &got, int what, double v) {
+    pnt_3d want = p;
+    kx_transformpnt3d(m, &want, &want);
+    EXPECT_LE(std::hypot(got.x - want.x, got.y - want.y, got.z - want.z), 1e-8) << what << " " << v;
+  };
+  for (double v : {0.0, 1e-9, 0.3, -2.0, 90.0, 1234.5}) {
+    for (int axis = -1; axis <= 6; ++axis) {
+      double m[16];
+      kx_getidmatrix3d(m);
+      pnt_3d got = p;
+      if (axis == 5) {
+        kx_translatematrix3d(v, -2 * v, 3 * v, m);
+        kx_translatepnt3d(&got, v, -2 * v, 3 * v, &got);
+      } else if (axis == 6) {
+        kx_scalematrix3d(v, 1 - v, 2 * v, &fixed, m);
+        EXPECT_EQ(kx_scalepnt3d(v, 1 - v, 2 * v, &fixed, &got, &got), 0);
+      } else {
+        kx_rotationmatrix3d(axis, v, &line, m);
+        kx_rotatepnt3d(axis, v, &line, &got, &got);
+      }
+      check(m, got, axis, v);
+    }
+  }
+  pnt_3d out{};
+  kx_rotatepnt3d(3, 90, &dot, &p, &out);
+  EXPECT_TRUE(out.x == p.x && out.y == p.y && out.z == p.z);
+}
+
 TEST(PointTransforms, TinyAnglesCopy) {
   const pnt_2d p{1e6, 1.0 / 3}, centre{1, 1};
   pnt_2d out;
@@ -36,6 +67,11 @@ TEST(PointTransforms, TinyAnglesCopy) {
   EXPECT_TRUE(out.x == p.x && out.y == p.y);
   kx_rotatepnt2d(1.1e-7, &centre, &p, &out);
   EXPECT_TRUE(out.y != p.y);
+  const pnt_3d q{1e6, 1.0 / 3, 1};
+  pnt_3d copy, turned;
+  kx_rotatepnt3d(2, -1e-7, nullptr, &q, &copy);
+  kx_rotatepnt3d(2, -1.1e-7, nullptr, &q, &turned);
+  EXPECT_TRUE(copy.x == q.x && copy.y == q.y && turned.y != q.y);
 }
 
 // Three items of a kind, the middle one without data, the cursor on the last.
@@ -75,6 +111,59 @@ TEST(PointTransforms, ListsByKindAndWithoutMemory) {
   }
   list_hdr nothing{};
   EXPECT_TRUE(!kx_transfpolygon(m, &nothing) && !kx_transfpolygon(m, nullptr));
+}
+
+TEST(PointTransforms, SpaceListsByKindAndWithoutMemory) {
+  double m[16];
+  kx_getidmatrix3d(m);
+  kx_translatematrix3d(10, 20, 30, m);
+  for (std::int32_t tag : {KX_PNT_3D, KX_POLY_3D, KX_POLY_2D}) {
+    const bool other = tag == KX_POLY_2D;
+    const auto check = [&](int n, list_hdr &in, list_hdr *out) {
+      const std::string text = n == 1 ? "ll_create_list" : "ll_add_list_item";
+      EXPECT_EQ(faults::messages().empty(), n == 0 || n == 2 || n == 4);  // records are left out silently
+      if (!faults::messages().empty()) EXPECT_EQ(faults::messages().back(), "Memory Error: " + text);
+      EXPECT_EQ(kx::count(out), n == 1 || other ? 0 : n ? 1 : 2);
+      EXPECT_TRUE(out || n == 1 || other);
+      bool last = n == 2 || n == 3;
+      for (list_item &item : kx::items(out)) {
+        const pnt_3d at = kx::read_point(item.data, tag);
+        EXPECT_TRUE(item.datatype == tag && at.x == (last ? 13 : 11) && at.y == (last ? 24 : 22) && at.z == 30);
+        EXPECT_EQ(kx::read_seqnr(item.data, tag), tag == KX_PNT_3D ? 0 : last ? 5 : 7);
+        last = true;
+      }
+      if (out) kx::release_items(*out);
+      kx::release(out), kx::release_items(in);
+    };
+    const int allocations = faults::fail_each_allocation(
+        [&] { return three(tag); }, [&](list_hdr &l) { return kx_transform_polyline_3d(m, &l); }, check);
+    EXPECT_EQ(allocations, other ? 1 : 5);
+  }
+  list_hdr nothing{};
+  EXPECT_TRUE(!kx_transform_polyline_3d(m, &nothing) && !kx_transform_polyline_3d(m, nullptr));
+}
+
+TEST(PointTransforms, ASetIsAppendedAlsoToItself) {
+  double m[16];
+  kx_getidmatrix3d(m);
+  kx_translatematrix3d(10, 20, 30, m);
+  const auto append = [&](list_hdr &l) { return kx_transform_pnt_set(m, &l, &l), 0; };
+  const auto check = [&](int n, list_hdr &l, int) {
+    EXPECT_EQ(kx::count(&l), n ? 4 : 5);
+    EXPECT_EQ(n ? faults::messages().back() : "",
+              n ? std::string("Memory Error: ") + (n % 2 ? "kx_create_poly_3D" : "ll_add_list_item") : "");
+    const auto *image = static_cast<const poly_3d *>(l.tail->data);
+    EXPECT_TRUE(l.tail->datatype == KX_POLY_3D && l.current == l.tail);
+    EXPECT_TRUE(image->seqnr == (n > 2 ? 7 : 5) && image->y == (n > 2 ? 22 : 24) && image->z == 30);
+    kx::release_items(l);
+  };
+  EXPECT_EQ(faults::fail_each_allocation([] { return three(KX_POLY_3D); }, append, check), 4);
+  list_hdr points = three(KX_PNT_3D), out{};  // smaller than the vertices they would be read as
+  kx_transform_pnt_set(m, &points, &out);
+  kx_transform_pnt_set(m, nullptr, &out);
+  kx_transform_pnt_set(m, &points, nullptr);
+  EXPECT_TRUE(out.count == 0 && points.current == points.head);
+  kx::release_items(points);
 }
 
 }  // namespace
