@@ -165,12 +165,13 @@ struct run {
 template <pass P, int runs, int M, class T>
 std::int64_t substitute_side_by_side(const band<const double> &a, const T *b, T *x) {
   using values = run<P, M, T>;
-  constexpr int length = 256, lead = 48;
+  constexpr std::int64_t lead = 96, shortest = 2 * lead, longest = 1024;
   const std::int64_t n = a.n;
   std::int64_t t = M;
-  for (int right = runs; right == runs && n - t >= runs * length; t += right * length) {
+  for (int right = runs; right == runs && n - t >= runs * shortest;) {
+    const std::int64_t length = std::min((n - t) / runs, longest);
     values now[runs] = {values::behind(t, n, x)};
-    for (int i = -lead; i < 0; ++i) {
+    for (std::int64_t i = -lead; i < 0; ++i) {
       unrolled<1, runs>([&](auto r) {
         const std::ptrdiff_t k = place<P>(t + r() * length + i, n);
         now[r()].next(a.row(k), b[k]);
@@ -178,14 +179,16 @@ std::int64_t substitute_side_by_side(const band<const double> &a, const T *b, T 
     }
     values guess[runs];
     std::copy(now, now + runs, guess);
-    for (int i = 0; i < length; ++i) {
+    for (std::int64_t i = 0; i < length; ++i) {
       unrolled<0, runs>([&](auto r) {
         const std::ptrdiff_t k = place<P>(t + r() * length + i, n);
         x[k] = now[r()].next(a.row(k), b[k]);
       });
     }
     right = 1;
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits, not the values
     while (right < runs && std::memcmp(&now[right - 1], &guess[right], sizeof(values)) == 0) ++right;
+    t += right * length;
   }
   return t;
 }

@@ -39,15 +39,11 @@ struct MatrixStore : testing::Test {
     std::string out;
     for (list_item &item : kx::items(list)) {
       const auto *record = static_cast<const typename Kind::record *>(item.data);
-      if (!record) {
-        out += "- ";
-        continue;
-      }
       EXPECT_EQ(item.datatype, Kind::tag);
-      const double first = record->matrix[0], last = record->matrix[Kind::size - 1];
-      EXPECT_EQ(last, first + Kind::size - 1);
-      out += std::to_string(record->id) + ":" + std::to_string(static_cast<int>(first)) +
-             (&item == list->current ? "| " : " ");
+      const double first = record ? record->matrix[0] : 0, last = record ? record->matrix[Kind::size - 1] : 0;
+      EXPECT_TRUE(!record || last == first + Kind::size - 1);
+      out += record ? std::to_string(record->id) + ":" + std::to_string(static_cast<int>(first)) : "-";
+      out += &item == list->current ? "| " : " ";
     }
     return out;
   }

@@ -84,63 +84,48 @@ list_hdr three(std::int32_t tag) {
 }
 
 TEST(PointTransforms, ListsByKindAndWithoutMemory) {
-  double m[9];
-  kx_getidmatrix2d(m);
-  kx_translatematrix2d(10, 20, m);
-  for (std::int32_t tag : {KX_PNT_2D, KX_POLY_2D, KX_PNT_3D}) {
+  double plane[9], space[16];
+  kx_getidmatrix2d(plane), kx_getidmatrix3d(space);
+  kx_translatematrix2d(10, 20, plane), kx_translatematrix3d(10, 20, 30, space);
+  const std::string item = "ll_add_list_item", polygon = "transfpolygon";
+  struct row {
+    list_hdr *(KX_CALL *copy)(const double *, list_hdr *);
+    std::int32_t tag;
+    std::string record_text, item_text;  // of what finds no memory; "" says nothing
+    bool taken = true;
+  };
+  const row table[] = {{kx_transfpolygon, KX_PNT_2D, polygon, "kx_transfpolygon - 3"},
+                       {kx_transfpolygon, KX_POLY_2D, polygon, "kx_transfpolygon - 2"},
+                       {kx_transfpolygon, KX_PNT_3D, "", "", false},
+                       {kx_transform_polyline_3d, KX_PNT_3D, "", item},
+                       {kx_transform_polyline_3d, KX_POLY_3D, "", item},
+                       {kx_transform_polyline_3d, KX_POLY_2D, "", "", false}};
+  for (const auto &[copy, tag, record_text, item_text, taken] : table) {
+    const bool in_space = copy == kx_transform_polyline_3d;
+    const double *m = in_space ? space : plane;
     const auto check = [&](int n, list_hdr &in, list_hdr *out) {
-      const std::string append = std::string("kx_transfpolygon - ") + (tag == KX_PNT_2D ? "3" : "2");
-      const std::string place = n == 1 ? "ll_create_list" : n % 2 ? append : "transfpolygon";
-      EXPECT_EQ(n ? faults::messages().back() : "", n ? "Memory Error: " + place : "");
-      EXPECT_EQ(out == nullptr, n == 1);
+      const std::string text = n == 0 ? "" : n == 1 ? "ll_create_list" : n % 2 ? item_text : record_text;
+      EXPECT_EQ(faults::messages().empty() ? "" : faults::messages().back(),
+                text.empty() ? "" : "Memory Error: " + text);
+      EXPECT_EQ(out == nullptr, n == 1 || (in_space && !taken));
       EXPECT_TRUE(in.current == (n == 1 ? in.tail : in.head));
-      EXPECT_EQ(kx::count(out), n == 1 || tag == KX_PNT_3D ? 0 : n ? 1 : 2);
+      EXPECT_EQ(kx::count(out), n == 1 || !taken ? 0 : n ? 1 : 2);
       bool last = n == 2 || n == 3;  // the first one found no memory
-      for (list_item &item : kx::items(out)) {
-        const pnt_3d at = kx::read_point(item.data, tag);
-        EXPECT_TRUE(item.datatype == tag && at.x == (last ? 13 : 11) && at.y == (last ? 24 : 22));
-        EXPECT_EQ(kx::read_seqnr(item.data, tag), tag == KX_PNT_2D ? 0 : last ? 5 : 7);
+      for (list_item &image : kx::items(out)) {
+        const pnt_3d at = kx::read_point(image.data, tag);
+        EXPECT_TRUE(image.datatype == tag && at.x == (last ? 13 : 11) && at.y == (last ? 24 : 22));
+        EXPECT_EQ(at.z, in_space ? 30 : 0);
+        EXPECT_EQ(kx::read_seqnr(image.data, tag), !kx::is_polygon_point(tag) ? 0 : last ? 5 : 7);
         last = true;
       }
       if (out) kx::release_items(*out);
       kx::release(out), kx::release_items(in);
     };
-    const int allocations = faults::fail_each_allocation([&] { return three(tag); },
-                                                         [&](list_hdr &l) { return kx_transfpolygon(m, &l); }, check);
-    EXPECT_EQ(allocations, tag == KX_PNT_3D ? 1 : 5);
+    const auto run = [&](list_hdr &l) { return copy(m, &l); };
+    EXPECT_EQ(faults::fail_each_allocation([&] { return three(tag); }, run, check), taken ? 5 : 1);
+    list_hdr nothing{};
+    EXPECT_TRUE(!copy(m, &nothing) && !copy(m, nullptr));
   }
-  list_hdr nothing{};
-  EXPECT_TRUE(!kx_transfpolygon(m, &nothing) && !kx_transfpolygon(m, nullptr));
-}
-
-TEST(PointTransforms, SpaceListsByKindAndWithoutMemory) {
-  double m[16];
-  kx_getidmatrix3d(m);
-  kx_translatematrix3d(10, 20, 30, m);
-  for (std::int32_t tag : {KX_PNT_3D, KX_POLY_3D, KX_POLY_2D}) {
-    const bool other = tag == KX_POLY_2D;
-    const auto check = [&](int n, list_hdr &in, list_hdr *out) {
-      const std::string text = n == 1 ? "ll_create_list" : "ll_add_list_item";
-      EXPECT_EQ(faults::messages().empty(), n == 0 || n == 2 || n == 4);  // records are left out silently
-      if (!faults::messages().empty()) EXPECT_EQ(faults::messages().back(), "Memory Error: " + text);
-      EXPECT_EQ(kx::count(out), n == 1 || other ? 0 : n ? 1 : 2);
-      EXPECT_TRUE(out || n == 1 || other);
-      bool last = n == 2 || n == 3;
-      for (list_item &item : kx::items(out)) {
-        const pnt_3d at = kx::read_point(item.data, tag);
-        EXPECT_TRUE(item.datatype == tag && at.x == (last ? 13 : 11) && at.y == (last ? 24 : 22) && at.z == 30);
-        EXPECT_EQ(kx::read_seqnr(item.data, tag), tag == KX_PNT_3D ? 0 : last ? 5 : 7);
-        last = true;
-      }
-      if (out) kx::release_items(*out);
-      kx::release(out), kx::release_items(in);
-    };
-    const int allocations = faults::fail_each_allocation(
-        [&] { return three(tag); }, [&](list_hdr &l) { return kx_transform_polyline_3d(m, &l); }, check);
-    EXPECT_EQ(allocations, other ? 1 : 5);
-  }
-  list_hdr nothing{};
-  EXPECT_TRUE(!kx_transform_polyline_3d(m, &nothing) && !kx_transform_polyline_3d(m, nullptr));
 }
 
 TEST(PointTransforms, ASetIsAppendedAlsoToItself) {
