@@ -20,27 +20,27 @@ extern "C" {
 
 /**
  * Sets a plane matrix to the identity; a null matrix is left alone.
- * @param[out] matrix  9 doubles
+ * @param[out] matrix[9]  the matrix
  */
 KX_API void KX_CALL kx_getidmatrix2d(double *matrix);
 
 /**
  * Sets a space matrix to the identity; a null matrix is left alone.
- * @param[out] matrix  16 doubles
+ * @param[out] matrix[16]  the matrix
  */
 KX_API void KX_CALL kx_getidmatrix3d(double *matrix);
 
 /**
  * Adds a move by (dx, dy) after what the matrix does already.
  * @param[in] dx,dy  the move
- * @param[in,out] matrix  9 doubles; null does nothing
+ * @param[in,out] matrix[9]  null does nothing
  */
 KX_API void KX_CALL kx_translatematrix2d(double dx, double dy, double *matrix);
 
 /**
  * Adds a move by (dx, dy, dz) after what the matrix does already.
  * @param[in] dx,dy,dz  the move
- * @param[in,out] matrix  16 doubles; null does nothing
+ * @param[in,out] matrix[16]  null does nothing
  */
 KX_API void KX_CALL kx_translatematrix3d(double dx, double dy, double dz, double *matrix);
 
@@ -48,7 +48,7 @@ KX_API void KX_CALL kx_translatematrix3d(double dx, double dy, double dz, double
  * Adds a rotation about a centre, counter-clockwise, after what the matrix does already.
  * @param[in] angle_deg  the angle in degrees; every value counts, however small
  * @param[in] center  the point that stays
- * @param[in,out] matrix  9 doubles; does nothing when this or center is null
+ * @param[in,out] matrix[9]  does nothing when this or center is null
  */
 KX_API void KX_CALL kx_rotationmatrix2d(double angle_deg, const pnt_2d *center, double *matrix);
 
@@ -59,7 +59,7 @@ KX_API void KX_CALL kx_rotationmatrix2d(double angle_deg, const pnt_2d *center, 
  * @param[in] axis  1: about y; 2: about z; 3: about axis_line; 0 and any other: about x
  * @param[in] angle_deg  the angle in degrees; every value counts, however small
  * @param[in] axis_line  the directed line of axis 3, from its first point to its second; not read for the others
- * @param[in,out] matrix  16 doubles; null does nothing, 0
+ * @param[in,out] matrix[16]  null does nothing, 0
  * @return 0; 57 when axis is 3 and the line's points are within 1e-7 of each other, or the line is null (matrix
  *   untouched)
  */
@@ -71,7 +71,7 @@ KX_API int32_t KX_CALL kx_rotationmatrix3d(int32_t axis, double angle_deg, const
  * as given: 0 collapses its axis, a negative one mirrors.
  * @param[in] sx,sy  the factors along x and y
  * @param[in] fixed  the point that stays
- * @param[in,out] matrix  9 doubles; does nothing when this or fixed is null
+ * @param[in,out] matrix[9]  does nothing when this or fixed is null
  */
 KX_API void KX_CALL kx_scalematrix2d(double sx, double sy, const pnt_2d *fixed, double *matrix);
 
@@ -80,7 +80,7 @@ KX_API void KX_CALL kx_scalematrix2d(double sx, double sy, const pnt_2d *fixed, 
  * Each factor that is 1e-7 or less, negative ones included, is taken as 1 by itself; the plane's rule differs.
  * @param[in] sx,sy,sz  the factors along x, y and z
  * @param[in] fixed  the point that stays
- * @param[in,out] matrix  16 doubles; does nothing when this or fixed is null
+ * @param[in,out] matrix[16]  does nothing when this or fixed is null
  * @return 0 always
  */
 KX_API int32_t KX_CALL kx_scalematrix3d(double sx, double sy, double sz, const pnt_3d *fixed, double *matrix);
@@ -89,7 +89,7 @@ KX_API int32_t KX_CALL kx_scalematrix3d(double sx, double sy, double sz, const p
  * Adds a shear after what the matrix does already.
  * @param[in] mode  1: y' = y + factor*x; any other: x' = x + factor*y
  * @param[in] factor  how much
- * @param[in,out] matrix  9 doubles; null does nothing
+ * @param[in,out] matrix[9]  null does nothing
  */
 KX_API void KX_CALL kx_shearmatrix2d(int32_t mode, double factor, double *matrix);
 
@@ -98,7 +98,7 @@ KX_API void KX_CALL kx_shearmatrix2d(int32_t mode, double factor, double *matrix
  * @param[in] mode  1: x' = x + f1*y, z' = z + f2*y; 2: x' = x + f1*z, y' = y + f2*z; any other: y' = y + f1*x,
  *   z' = z + f2*x
  * @param[in] f1,f2  how much
- * @param[in,out] matrix  16 doubles; null does nothing
+ * @param[in,out] matrix[16]  null does nothing
  */
 KX_API void KX_CALL kx_shearmatrix3d(int32_t mode, double f1, double f2, double *matrix);
 
@@ -106,14 +106,14 @@ KX_API void KX_CALL kx_shearmatrix3d(int32_t mode, double f1, double f2, double 
  * Adds a reflection after what the matrix does already.
  * @param[in] mode  1: x' = -x; 2: through the origin; 3: about the line y = x; 4: about the line y = -x; 0 and any
  *   other: y' = -y
- * @param[in,out] matrix  9 doubles; null does nothing
+ * @param[in,out] matrix[9]  null does nothing
  */
 KX_API void KX_CALL kx_reflectmatrix2d(int32_t mode, double *matrix);
 
 /**
  * Adds a reflection in a coordinate plane after what the matrix does already.
  * @param[in] mode  1: y' = -y; 2: z' = -z; any other: x' = -x
- * @param[in,out] matrix  16 doubles; null does nothing
+ * @param[in,out] matrix[16]  null does nothing
  */
 KX_API void KX_CALL kx_reflectmatrix3d(int32_t mode, double *matrix);
 
@@ -121,45 +121,45 @@ KX_API void KX_CALL kx_reflectmatrix3d(int32_t mode, double *matrix);
 
 /**
  * Multiplies two plane matrices: b becomes b*a, which does what b did and then what a does.
- * @param[in] a  9 doubles; may be b
- * @param[in,out] b  9 doubles; does nothing when either is null
+ * @param[in] a[9]  may be b
+ * @param[in,out] b[9]  does nothing when either is null
  */
 KX_API void KX_CALL kx_mat33mult(const double *a, double *b);
 
 /**
  * Multiplies two space matrices: b becomes b*a, which does what b did and then what a does.
- * @param[in] a  16 doubles; not b, which is written while this is read
- * @param[in,out] b  16 doubles; does nothing when either is null
+ * @param[in] a[16]  not b, which is written while this is read
+ * @param[in,out] b[16]  does nothing when either is null
  */
 KX_API void KX_CALL kx_mat44mult(const double *a, double *b);
 
 /**
  * Multiplies two space matrices into a third: c becomes a*b, summed up in place.
- * @param[in] a,b  16 doubles each
- * @param[in,out] c  16 doubles; neither a nor b, which are read while this is written; does nothing when any is null
+ * @param[in] a[16],b[16]  the matrices
+ * @param[in,out] c[16]  neither a nor b, which are read while this is written; does nothing when any is null
  */
 KX_API void KX_CALL kx_mat_mult(const double *a, const double *b, double *c);
 
 /**
  * Multiplies a homogeneous row vector by a space matrix: out(j) is the sum over k of v(k)*m(k, j). The one function
  * that uses the last column.
- * @param[in] m  16 doubles
- * @param[in] v  4 doubles
- * @param[out] out  4 doubles; may be v; does nothing when any is null
+ * @param[in] m[16]  the matrix
+ * @param[in] v[4]  the vector
+ * @param[out] out[4]  may be v; does nothing when any is null
  */
 KX_API void KX_CALL kx_mult_vector(const double *m, const double *v, double *out);
 
 /**
  * Copies a plane matrix.
- * @param[in] from  9 doubles; may overlap to
- * @param[out] to  9 doubles; does nothing when either is null
+ * @param[in] from[9]  may overlap to
+ * @param[out] to[9]  does nothing when either is null
  */
 KX_API void KX_CALL kx_movematrix2d(const double *from, double *to);
 
 /**
  * Copies a space matrix.
- * @param[in] from  16 doubles; may overlap to
- * @param[out] to  16 doubles; does nothing when either is null
+ * @param[in] from[16]  may overlap to
+ * @param[out] to[16]  does nothing when either is null
  */
 KX_API void KX_CALL kx_movematrix3d(const double *from, double *to);
 
@@ -180,30 +180,30 @@ KX_API double KX_CALL kx_get_det33(double a, double b, double c, double d, doubl
 
 /**
  * The determinant of a space matrix.
- * @param[in] m  16 doubles
+ * @param[in] m[16]  the matrix
  * @return the determinant, expanded by the first row; 0.0 for null
  */
 KX_API double KX_CALL kx_get_det44(const double *m);
 
 /**
  * The adjugate of a space matrix: its transposed cofactors. m times it is the determinant times the identity.
- * @param[in] m  16 doubles
- * @param[out] out  16 doubles; may be m; untouched when either is null
+ * @param[in] m[16]  the matrix
+ * @param[out] out[16]  may be m; untouched when either is null
  */
 KX_API void KX_CALL kx_get_adjoint_matrix3d(const double *m, double *out);
 
 /**
  * Inverts a plane matrix.
- * @param[in] m  9 doubles; may be out
- * @param[out] out  9 doubles: the inverse; on 1 the adjugate of m, not divided by the determinant
+ * @param[in] m[9]  may be out
+ * @param[out] out[9]  the inverse; on 1 the adjugate of m, not divided by the determinant
  * @return 0; 1 when the determinant is within 1e-7 of zero, or an argument is null (out untouched)
  */
 KX_API int32_t KX_CALL kx_getinversematrix2d(const double *m, double *out);
 
 /**
  * Inverts a space matrix.
- * @param[in] m  16 doubles; may be out
- * @param[out] out  16 doubles: the inverse; on 1 the adjugate of m, not divided by the determinant
+ * @param[in] m[16]  may be out
+ * @param[out] out[16]  the inverse; on 1 the adjugate of m, not divided by the determinant
  * @return 0; 1 when the determinant is within 1e-7 of zero, or an argument is null (out untouched)
  */
 KX_API int32_t KX_CALL kx_getinversematrix3d(const double *m, double *out);
@@ -219,7 +219,7 @@ KX_API double KX_CALL kx_inverse(double x);
 
 /**
  * Applies a plane matrix to a point.
- * @param[in] m  9 doubles
+ * @param[in] m[9]  the matrix
  * @param[in] in  the point
  * @param[out] out  its image; may be in; untouched when an argument is null
  */
@@ -227,7 +227,7 @@ KX_API void KX_CALL kx_transformpnt2d(const double *m, const pnt_2d *in, pnt_2d 
 
 /**
  * Applies a space matrix to a point.
- * @param[in] m  16 doubles
+ * @param[in] m[16]  the matrix
  * @param[in] in  the point
  * @param[out] out  its image; may be in; untouched when an argument is null
  */
@@ -294,7 +294,7 @@ KX_API int32_t KX_CALL kx_scalepnt3d(double sx, double sy, double sz, const pnt_
  * Copies a list of plane points through a plane matrix. The first item's kind decides for the list: of pnt_2d and
  * poly_2d every item with data is copied (its seqnr kept); of any other kind the copy is empty. A point that finds no
  * memory is reported and left out, the others follow.
- * @param[in] m  9 doubles
+ * @param[in] m[9]  the matrix
  * @param[in,out] polygon  the points; the current item ends at the head
  * @return the new list, its current item the last, to be freed by kx_purge_polygon; null when the input is null or
  *   empty, m is null, or there is no memory for the list
@@ -305,7 +305,7 @@ KX_API list_hdr *KX_CALL kx_transfpolygon(const double *m, list_hdr *polygon);
  * Appends the images of space vertices to another list. Every item of in is read as a poly_3d, whatever its tag, and
  * copied with its seqnr, as tag 63; one without data, or known to be a smaller record, is passed over. A vertex that
  * finds no memory is reported as "kx_create_poly_3D", or by the list, and left out, the others follow.
- * @param[in] m  16 doubles
+ * @param[in] m[16]  the matrix
  * @param[in,out] in  the vertices; the current item ends at the head
  * @param[in,out] out  the list that grows; its current item ends at the last image. May be in, whose images then follow
  *   it; does nothing when any argument is null
@@ -315,7 +315,7 @@ KX_API void KX_CALL kx_transform_pnt_set(const double *m, list_hdr *in, list_hdr
 /**
  * Copies a list of space points through a space matrix. The first item's kind decides for the list: of pnt_3d and
  * poly_3d every item with data is copied (its seqnr kept). A record that finds no memory is left out without a message.
- * @param[in] m  16 doubles
+ * @param[in] m[16]  the matrix
  * @param[in,out] polyline  the points; the current item ends at the head
  * @return the new list, its current item the last, to be freed by kx_purge_polygon; null when nothing came into it: the
  *   input is null, empty or of another kind, m is null, or there is no memory
@@ -330,7 +330,7 @@ KX_API list_hdr *KX_CALL kx_transform_polyline_3d(const double *m, list_hdr *pol
  * is appended to the list once more, as the current item; a store without records gets a new one.
  * @param[in,out] store  a list of matrixrec2d
  * @param[in] id  the number
- * @param[in] matrix  9 doubles
+ * @param[in] matrix[9]  the matrix
  * @return 0 stored; 1 store or matrix is null; 80 after a memory message ("kx_create_matrixrec2d" and
  *   "kx_storematrix2d", or the list's), the records unchanged
  */
@@ -340,7 +340,7 @@ KX_API int32_t KX_CALL kx_storematrix2d(list_hdr *store, int32_t id, const doubl
  * Stores a space matrix under a number, as kx_storematrix2d, but a match on the last item is appended once more, too.
  * @param[in,out] store  a list of matrixrec3d
  * @param[in] id  the number
- * @param[in] matrix  16 doubles
+ * @param[in] matrix[16]  the matrix
  * @return 0 stored; 1 store or matrix is null; 80 after a memory message ("kx_create_matrixrec3d" and
  *   "storematrix3d", or the list's), the records unchanged
  */
@@ -350,7 +350,7 @@ KX_API int32_t KX_CALL kx_storematrix3d(list_hdr *store, int32_t id, const doubl
  * Reads a plane matrix back. The search goes from head to tail.
  * @param[in,out] store  a list of matrixrec2d; the record found becomes current, the head when there is none
  * @param[in] id  the number
- * @param[out] out  9 doubles; untouched on 1
+ * @param[out] out[9]  untouched on 1
  * @return 0 found; 1 no such number, the store is null or empty, or out is null
  */
 KX_API int32_t KX_CALL kx_restorematrix2d(list_hdr *store, int32_t id, double *out);
@@ -359,7 +359,7 @@ KX_API int32_t KX_CALL kx_restorematrix2d(list_hdr *store, int32_t id, double *o
  * Reads a space matrix back. The search goes from head to tail.
  * @param[in,out] store  a list of matrixrec3d; the record found becomes current, the head when there is none
  * @param[in] id  the number
- * @param[out] out  16 doubles; untouched on 1
+ * @param[out] out[16]  untouched on 1
  * @return 0 found; 1 no such number, the store is null or empty, or out is null
  */
 KX_API int32_t KX_CALL kx_restorematrix3d(list_hdr *store, int32_t id, double *out);
@@ -383,7 +383,7 @@ KX_API int32_t KX_CALL kx_disposematrix3d(list_hdr *store);
 /**
  * Factors a band matrix into L*U in place, without pivoting; made for the diagonally dominant systems of curve
  * interpolation. With n 1 or m 0 nothing is done.
- * @param[in,out] band[n*(2*m+1)]  n rows: element (i, j), counted from 0, at i*(2m+1) + m + (j-i); what lies
+ * @param[in,out] band[n*(m+m+1)]  n rows: element (i, j), counted from 0, at i*(2m+1) + m + (j-i); what lies
  * outside of the matrix is not touched. Afterwards L (its diagonal of ones not stored) and U; half done on 1
  * @param[in] n  rows, 1 or more
  * @param[in] m  half-bandwidth, 0 or more; may be n or more
@@ -394,7 +394,7 @@ KX_API int32_t KX_CALL kx_ludecomposition(double *band, int32_t n, int32_t m);
 /**
  * Solves a band system that kx_ludecomposition has factored. Pivots are not tested: one of zero gives infinities or
  * NaN.
- * @param[in] band[n*(2*m+1)]  the factors
+ * @param[in] band[n*(m+m+1)]  the factors
  * @param[in] n,m  rows and half-bandwidth, as for kx_ludecomposition; out of range nothing is done
  * @param[in,out] b[n]  the right-hand side; overwritten by the forward substitution
  * @param[out] x[n]  the solution; may be b
