@@ -19,13 +19,15 @@ struct curve_codes;
 
 template <>
 struct curve_codes<plane> {
-  static constexpr std::int32_t bspline = 83, bezier = 85, catrom = 87, nonuniform_bspline = 93, nurbs = 94;
+  static constexpr std::int32_t bspline = 83, bezier = 85, catrom = 87, beta = 91, nonuniform_bspline = 93, nurbs = 94,
+                                rational_bezier = 96;
 };
 
 // The space B-spline is 98 and not 94: hosts tell it so from the plane NURBS.
 template <>
 struct curve_codes<space> {
-  static constexpr std::int32_t bspline = 84, bezier = 86, catrom = 88, nonuniform_bspline = 98, nurbs = 95;
+  static constexpr std::int32_t bspline = 84, bezier = 86, catrom = 88, beta = 92, nonuniform_bspline = 98, nurbs = 95,
+                                rational_bezier = 97;
 };
 
 inline constexpr std::int32_t max_degree = 15;
@@ -89,6 +91,19 @@ inline list_hdr take_items(list_hdr *given, detached how) {
 inline void replace_items(list_hdr &list, const list_hdr &taken) {
   if (!empty(&list)) release_items(list);
   list = taken;
+}
+
+// Appends a numbered point; false, nothing appended, after the memory message.
+template <class D>
+inline bool append_vertex(list_hdr &list, std::uint32_t number, typename D::vector at) {
+  auto *record = D::create_vertex();
+  if (record == nullptr) [[unlikely]]
+    return false;
+  *record = D::make_vertex(static_cast<std::int32_t>(number), at);
+  if (append(list, record, D::vertex_tag)) [[likely]]
+    return true;
+  release(record);
+  return false;
 }
 
 // A sample of a curve: the point and its statistics.

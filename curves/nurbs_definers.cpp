@@ -74,6 +74,15 @@ curve *KX_CALL kx_def_nubspl_curve3d(list_hdr *ctrl, list_hdr *knots, std::int32
   return nullptr;
 }
 
+curve *KX_CALL kx_def_nubspl_curve(list_hdr *ctrl, list_hdr *knots, std::int32_t degree, std::int32_t option) {
+  const std::int32_t tag = kx::datatype(ctrl);
+  if (kx::is_space_point(tag)) return kx_def_nubspl_curve3d(ctrl, knots, degree, option);
+  curve *c = kx::is_plane_point(tag) ? kx_create_curve() : nullptr;
+  if (c == nullptr || kx_def_nubspl_curve2d(ctrl, knots, degree, option, c) == 0) return c;
+  kx::dispose(c);
+  return nullptr;
+}
+
 curve *KX_CALL kx_def_nurb_curve(list_hdr *ctrl, list_hdr *knots, list_hdr *weights, std::int32_t degree,
                                  std::int32_t option) {
   const std::int32_t tag = kx::datatype(ctrl);

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "curve_record.hpp"
+#include "curve_statistics.hpp"
 #include "kxgeom/curves.h"
 #include "runtime/tolerance.hpp"
 
@@ -23,39 +24,12 @@ struct segment {
   }
 };
 
-// A unit vector, or the zero vector of length 0 where there is no direction.
-template <class V>
-struct direction {
-  V v;
-  double length;
-};
-
-template <class V>
-direction<V> direction_of(V v) {
-  const double length = kx::length(v);
-  if (kx::near_zero(length)) return {V{}, 0.0};
-  return {(1.0 / length) * v, 1.0};
-}
-
-direction<vec2> normal(const direction<vec2> &tangent, const direction<vec2> &) {
-  return {kx::normal(tangent.v), tangent.length};
-}
-
-// The principal normal: none on a straight stretch.
-direction<vec3> normal(const direction<vec3> &tangent, const direction<vec3> &second) {
-  return direction_of(second.v - dot(second.v, tangent.v) * tangent.v);
-}
-
 // Point and unit vectors of a segment at t.
 template <class D>
 inline typename D::vector evaluate(const segment<typename D::vector> &s, double t, typename D::stats &stats) {
   const auto *c = s.c;
   const double t2 = t * t, t3 = t2 * t;
-  const auto tangent = direction_of((3.0 * t2) * c[0] + (2.0 * t) * c[1] + c[2]);
-  const auto second = direction_of((6.0 * t) * c[0] + 2.0 * c[1]);
-  const auto across = normal(tangent, second);
-  stats = {t, D::make_vector(tangent.v, tangent.length), D::make_vector(second.v, second.length),
-           D::make_vector(across.v, across.length)};
+  stats = kx::statistics<D>(t, (3.0 * t2) * c[0] + (2.0 * t) * c[1] + c[2], (6.0 * t) * c[0] + 2.0 * c[1]);
   return t3 * c[0] + t2 * c[1] + t * c[2] + c[3];
 }
 

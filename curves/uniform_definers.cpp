@@ -1,8 +1,8 @@
 // Defining the uniform cubic curves: type, basis matrix and control points.
 #include <initializer_list>
 
-#include "curve_record.hpp"
 #include "kxgeom/curves.h"
+#include "uniform_definers.hpp"
 
 namespace {
 
@@ -36,40 +36,30 @@ constexpr uniform_kind catrom = {curve_codes<plane>::catrom,
 
 std::int32_t bezier_degree(std::int32_t points) { return points < 1 ? 0 : points > 31 ? 30 : points - 1; }
 
-// Fills a curve that has a control list.
-void define(const uniform_kind &kind, std::int32_t code, list_hdr &ctrl, curve &c) {
-  c.curve_type = code;
-  for (int i = 0; i < 16; ++i) c.basis[i] = kind.rows[i] * kind.factor;
-  if (&kind == &bezier) c.degree = bezier_degree(kx::item_count(&ctrl));
-  kx::replace_items(*c.ctrl_pnts, kx::take_items(&ctrl, kind.header));
+std::int32_t define(const uniform_kind &kind, std::int32_t code, list_hdr *ctrl, curve *c) {
+  const std::int32_t degree = bezier_degree(kx::item_count(ctrl));
+  double basis[16];
+  for (int i = 0; i < 16; ++i) basis[i] = kind.rows[i] * kind.factor;
+  const std::int32_t answer = kx::define_uniform(ctrl, c, code, basis, kind.header);
+  if (answer == 0 && &kind == &bezier) c->degree = degree;
+  return answer;
 }
 
 std::int32_t define_plane(const uniform_kind &kind, list_hdr *ctrl, curve *c) {
-  if (ctrl == nullptr || c == nullptr) return 40;
-  c->ctrl_pnts = kx::existing_or_new(c->ctrl_pnts);
-  if (c->ctrl_pnts == nullptr) return 80;
-  define(kind, kind.plane_code, *ctrl, *c);
-  return 0;
+  return define(kind, kind.plane_code, ctrl, c);
 }
 
 curve *define_space(const uniform_kind &kind, list_hdr *ctrl) {
   curve *c = ctrl ? kx_create_curve() : nullptr;
-  if (c) define(kind, kind.space_code, *ctrl, *c);
+  if (c) define(kind, kind.space_code, ctrl, c);
   return c;
 }
 
 curve *dispatch(const uniform_kind &kind, list_hdr *ctrl) {
-  const std::int32_t tag = kx::datatype(ctrl);
-  if (kx::is_plane_point(tag)) {
-    curve *c = kx_create_curve();
-    if (c == nullptr || define_plane(kind, ctrl, c) == 0) return c;
-    kx::dispose(c);
-  } else if (kx::is_space_point(tag)) {
-    // Space curves come from the space definers alone: here the points are taken over and freed, on purpose, as hosts
-    // that still call this count on getting none back.
-    kx::dispose(define_space(kind, ctrl));
-  }
-  return nullptr;
+  return kx::dispatch_uniform(ctrl, [&kind](auto dimension, list_hdr *points, curve *c) {
+    constexpr bool in_plane = std::is_same_v<decltype(dimension), plane>;
+    return define(kind, in_plane ? kind.plane_code : kind.space_code, points, c);
+  });
 }
 
 }  // namespace

@@ -316,6 +316,17 @@ KX_API int32_t KX_CALL kx_def_nubspl_curve2d(list_hdr *ctrl, list_hdr *knots, in
 KX_API curve *KX_CALL kx_def_nubspl_curve3d(list_hdr *ctrl, list_hdr *knots, int32_t degree, int32_t option);
 
 /**
+ * Makes a new non-uniform B-spline of control points in the plane (datatype 50 or 62) or in space (51 or 63), as
+ * kx_def_nubspl_curve2d and kx_def_nubspl_curve3d do.
+ * @param[in,out] ctrl,knots  as kx_def_nubspl_curve2d
+ * @param[in] degree  1 to 15
+ * @param[in] option  parameter steps per knot span, stored in span_steps
+ * @return the curve, owned by the caller and freed by kx_purge_curve; null, the lists untouched, for any other
+ *   datatype, for what the definer refuses (in space after its message), and after a memory message
+ */
+KX_API curve *KX_CALL kx_def_nubspl_curve(list_hdr *ctrl, list_hdr *knots, int32_t degree, int32_t option);
+
+/**
  * Makes a new NURBS curve of control points in the plane (datatype 50 or 62) or in space (51 or 63).
  * @param[in,out] ctrl,knots,weights  as kx_def_nurb_curve2d
  * @param[in] degree  1 to 15
@@ -377,8 +388,9 @@ KX_API int32_t KX_CALL kx_mk_nurb_curve(curve *c, int32_t skip, int32_t skip_ena
  *   negative number gives no samples
  * @return 0 done; 1 null curve, missing list or no control points; 2 degree outside 1 to 15 or too few control points;
  *   3 not of type 94; 4 not more than n_spans + 2p - 2 knots; 5 no knots, a parameter below -1e-7, a weight within 1e-7
- *   of 0 or not finite, or a point, weight or knot that is missing; 6 no weights; 80 no memory, after its message (that
- *   of the knots is "mk_nurb_curve2d - 2"). Samples that were appended before stay
+ *   of 0 or not finite, or a point, weight or knot that is missing; 6 no weights; 80 no memory or 10 million samples
+ *   or more, after the memory message (that of the knots and of the count is "mk_nurb_curve2d - 2"). Samples that were
+ *   appended before stay
  */
 KX_API int32_t KX_CALL kx_mk_nurb_curve2d(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
 
@@ -390,6 +402,278 @@ KX_API int32_t KX_CALL kx_mk_nurb_curve2d(curve *c, int32_t skip, int32_t skip_e
  * @return as kx_mk_nurb_curve2d, 3 when not of type 95; the message of the knots is "mk_nurb_curve3d - 2"
  */
 KX_API int32_t KX_CALL kx_mk_nurb_curve3d(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
+
+/* ---- nonuniform bsplines ---- */
+
+/**
+ * Samples a non-uniform B-spline with kx_mk_nubspline_2d (type 93) or kx_mk_nubspline_3d (98).
+ * @param[in,out] c  the curve
+ * @param[in] skip,skip_enable,n_spans,steps  as kx_mk_nurb_curve2d
+ * @return what that maker returns; 1 null curve; 3 any other type
+ */
+KX_API int32_t KX_CALL kx_mk_nubspline(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
+
+/**
+ * Samples a non-uniform plane B-spline span by span as kx_mk_nurb_curve2d samples a NURBS curve, without weights and
+ * with all statistics: parameter, unit tangent, unit second derivative and normal, derivatives being those by the
+ * curve's parameter. At an inner knot the end of one span and the begin of the next tell both sides apart.
+ * @param[in,out] c  the curve; cursors as kx_mk_nurb_curve2d leaves them
+ * @param[in] skip,skip_enable,n_spans,steps  as kx_mk_nurb_curve2d
+ * @return 0 done; 1 null curve, no control points or no list of them or of knots; 2 degree outside 1 to 15 or too few
+ *   control points; 3 not of type 93; 4 not more than n_spans + 2p - 2 knots; 5 no knots, a parameter below -1e-7,
+ * knots of a span that decrease or are not finite, or a point or knot that is missing; 80 no memory or 10 million
+ * samples or more, after the memory message. Samples that were appended before stay
+ */
+KX_API int32_t KX_CALL kx_mk_nubspline_2d(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
+
+/**
+ * Samples a non-uniform space B-spline, in every respect as kx_mk_nubspline_2d does, into poly_3d points (63) and
+ * curve_stats_3d statistics (61).
+ * @param[in,out] c  the curve
+ * @param[in] skip,skip_enable,n_spans,steps  as kx_mk_nurb_curve2d
+ * @return as kx_mk_nubspline_2d, 3 when not of type 98
+ */
+KX_API int32_t KX_CALL kx_mk_nubspline_3d(curve *c, int32_t skip, int32_t skip_enable, int32_t n_spans, int32_t steps);
+
+/* ---- catmull rom ---- */
+
+/**
+ * Samples a Catmull-Rom spline into a new list with kx_catrom_curve_2d (points of datatype 50 or 62) or
+ * kx_catrom_curve_3d (51 or 63).
+ * @param[in] n  number of points, 4 or more
+ * @param[in] points  the points
+ * @param[in] resolution,a  as kx_catrom_curve_2d
+ * @param[out] out_count  number of points made, 0 on failure; may be null
+ * @return the list, owned by the caller and freed by kx_purge_polygon; null for a null list, any other datatype, what
+ *   those functions refuse (in space after the message), and after a memory message
+ */
+KX_API list_hdr *KX_CALL kx_catrom_curve(int32_t n, const list_hdr *points, int32_t resolution, double a,
+                                         int32_t *out_count);
+
+/**
+ * Samples a Catmull-Rom spline in the plane: through the points 1 to n-2, in segments that the points before and after
+ * steer. Each segment is sampled at 0, step, 2 step ... below 1, so that a joint comes once; the last point is point
+ * n-2 itself. The new points are poly_2d (62), numbered from 0.
+ * @param[in] n  number of points, 4 or more
+ * @param[in] points  the points, of any of the four kinds; the cursor stays
+ * @param[in] resolution  the step: 0 is 0.01, 1 is 0.02, 2 is 0.04, 4 is 0.1, 5 is 0.2, 6 is 0.5, any other 0.05
+ * @param[in] a  tension; 0.5 for the Catmull-Rom spline proper
+ * @param[out] out_count  number of points appended, 0 on failure; may be null
+ * @param[in,out] out  the list appended to; emptied by kx_clear_polygon on 40 and 80
+ * @return 0; 1 null list or out; 33 n below 4 or above the number of points; 40 a point without a record; 80 no memory,
+ *   after its message
+ */
+KX_API int32_t KX_CALL kx_catrom_curve_2d(int32_t n, const list_hdr *points, int32_t resolution, double a,
+                                          int32_t *out_count, list_hdr *out);
+
+/**
+ * Samples a Catmull-Rom spline in space, in every respect as kx_catrom_curve_2d does, into poly_3d points (63). Unlike
+ * it, this one says what is wrong with n.
+ * @param[in] n  number of points, 4 or more
+ * @param[in] points  the points, of any of the four kinds; z is 0 for those of the plane
+ * @param[in] resolution,a  as kx_catrom_curve_2d
+ * @param[out] out_count  number of points appended, 0 on failure; may be null
+ * @param[in,out] out  the list appended to; emptied by kx_clear_polygon on 40 and 80
+ * @return as kx_catrom_curve_2d; 33 after the message "BADCNT" (33)
+ */
+KX_API int32_t KX_CALL kx_catrom_curve_3d(int32_t n, const list_hdr *points, int32_t resolution, double a,
+                                          int32_t *out_count, list_hdr *out);
+
+/* ---- bspline points ---- */
+
+/**
+ * Samples a uniform cubic B-spline into a new list with kx_bspline_2d (points of datatype 50 or 62) or kx_bspline_3d
+ * (51 or 63).
+ * @param[in] n  number of control points, 4 or more
+ * @param[in] points  the control points
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points made, 0 on failure; may be null
+ * @return the list, owned by the caller and freed by kx_purge_polygon; null for a null list, any other datatype, what
+ *   those functions refuse, and after a memory message
+ */
+KX_API list_hdr *KX_CALL kx_bspline_curve(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count);
+
+/**
+ * Samples a uniform cubic B-spline in the plane, segment by segment as kx_catrom_curve_2d does, to the end of the last
+ * segment. The curve begins near the second control point and ends near the last but one. The new points are poly_2d
+ * (62), numbered from 0.
+ * @param[in] n  number of control points, 4 or more
+ * @param[in] points  the control points, of any of the four kinds; the cursor stays
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points appended, 0 on failure; may be null
+ * @param[in,out] out  the list appended to; emptied by kx_clear_polygon on 40 and 80
+ * @return 0; 1 null list or out; 33 n below 4 or above the number of points; 40 a point without a record; 80 no memory,
+ *   after its message
+ */
+KX_API int32_t KX_CALL kx_bspline_2d(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count,
+                                     list_hdr *out);
+
+/**
+ * Samples a uniform cubic B-spline in space, in every respect as kx_bspline_2d does, into poly_3d points (63).
+ * @param[in] n  number of control points, 4 or more
+ * @param[in] points  the control points, of any of the four kinds; z is 0 for those of the plane
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points appended, 0 on failure; may be null
+ * @param[in,out] out  the list appended to; emptied by kx_clear_polygon on 40 and 80
+ * @return as kx_bspline_2d
+ */
+KX_API int32_t KX_CALL kx_bspline_3d(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count,
+                                     list_hdr *out);
+
+/**
+ * Samples the uniform cubic B-spline that begins at the first and ends at the last control point, to the last bit, into
+ * a new list. The control polygon is continued at each end by the mirror image of the end's neighbour, which also makes
+ * the curve leave and arrive along the first and last leg, without curvature. It has n - 1 segments.
+ * @param[in] n  number of control points, 2 or more
+ * @param[in] points  the control points, of any of the four kinds; the datatype tells plane from space; the cursor
+ * stays
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points made, 0 on failure; may be null
+ * @return the list, of poly_2d (62) or poly_3d (63) numbered from 0, owned by the caller and freed by kx_purge_polygon;
+ *   null for a null list, any other datatype, n below 2 or above the number of points, a point without a record, and
+ *   after a memory message
+ */
+KX_API list_hdr *KX_CALL kx_bspline_spep(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count);
+
+/**
+ * Samples a uniform quadratic B-spline into a new list with kx_quad_bspline_2d (points of datatype 50 or 62) or
+ * kx_quad_bspline_3d (51 or 63).
+ * @param[in] n  number of control points, 3 or more
+ * @param[in] points  the control points
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points made, 0 on failure; may be null
+ * @return as kx_bspline_curve
+ */
+KX_API list_hdr *KX_CALL kx_quad_bspline(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count);
+
+/**
+ * Samples a uniform quadratic B-spline in the plane, in every respect as kx_bspline_2d does. The curve begins midway
+ * between the first two control points, touches every leg at its middle and ends midway between the last two.
+ * @param[in] n  number of control points, 3 or more
+ * @param[in] points  the control points, of any of the four kinds; the cursor stays
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points appended, 0 on failure; may be null
+ * @param[in,out] out  the list appended to; emptied by kx_clear_polygon on 40 and 80
+ * @return as kx_bspline_2d, 33 for n below 3
+ */
+KX_API int32_t KX_CALL kx_quad_bspline_2d(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count,
+                                          list_hdr *out);
+
+/**
+ * Samples a uniform quadratic B-spline in space, in every respect as kx_quad_bspline_2d does, into poly_3d points (63).
+ * @param[in] n  number of control points, 3 or more
+ * @param[in] points  the control points, of any of the four kinds; z is 0 for those of the plane
+ * @param[in] resolution  the step as kx_catrom_curve_2d
+ * @param[out] out_count  number of points appended, 0 on failure; may be null
+ * @param[in,out] out  the list appended to; emptied by kx_clear_polygon on 40 and 80
+ * @return as kx_quad_bspline_2d
+ */
+KX_API int32_t KX_CALL kx_quad_bspline_3d(int32_t n, const list_hdr *points, int32_t resolution, int32_t *out_count,
+                                          list_hdr *out);
+
+/* ---- beta splines ---- */
+
+/**
+ * Makes a uniform beta-spline of plane control points, in every respect as kx_def_ubspl_curve does.
+ * @param[in,out] ctrl  control points
+ * @param[in] b1,b2  bias and tension as kx_def_ubetaspl_curve2d
+ * @return as kx_def_ubspl_curve; null too for what kx_def_ubetaspl_curve2d refuses
+ */
+KX_API curve *KX_CALL kx_def_ubetaspl_curve(list_hdr *ctrl, double b1, double b2);
+
+/**
+ * Makes a curve a uniform beta-spline in the plane (91), which kx_mk_ucurve samples: type and basis are written, the
+ * control points taken over. With bias 1 and tension 0 the basis is that of the uniform cubic B-spline save for one
+ * element, the third of the second row: 5/12 in place of 1/2. The two differ by t^2/12 of the third control point.
+ * @param[in,out] ctrl  control points; an empty list afterwards, whose count is left as it was
+ * @param[in,out] c  the curve
+ * @param[in] b1  bias
+ * @param[in] b2  tension
+ * @return 0; 2 when 2 b1^3 + 4 b1^2 + 4 b1 + b2 + 2, the divisor of the basis, is 0 or not finite; 40 when either
+ *   pointer is null; 80 when the curve lacks a control list and none can be created; nothing is changed unless 0
+ */
+KX_API int32_t KX_CALL kx_def_ubetaspl_curve2d(list_hdr *ctrl, curve *c, double b1, double b2);
+
+/**
+ * Makes a curve a uniform beta-spline in space (92), in every respect as kx_def_ubetaspl_curve2d does. The caller
+ * brings the curve, unlike with the other space definers of the uniform kinds.
+ * @param[in,out] ctrl  control points; an empty list afterwards, whose count is left as it was
+ * @param[in,out] c  the curve
+ * @param[in] b1,b2  bias and tension
+ * @return as kx_def_ubetaspl_curve2d
+ */
+KX_API int32_t KX_CALL kx_def_ubetaspl_curve3d(list_hdr *ctrl, curve *c, double b1, double b2);
+
+/* ---- bezier conversion ---- */
+
+/**
+ * Turns a B-spline into Bezier curves with kx_bspl_to_bezier_curve2d or, for a type of space, with
+ * kx_bspl_to_bezier_curve3d.
+ * @param[in] c  the curve
+ * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[in] room  as kx_bspl_to_bezier_curve2d
+ * @return what that function returns
+ */
+KX_API int32_t KX_CALL kx_bspl_to_bezier_curve(const curve *c, curve **pieces, int32_t room, int32_t *count);
+
+/**
+ * Turns a plane B-spline into Bezier curves that together are the same curve, one for each knot span of some length, by
+ * knot insertion. The curve may be uniform (83, 87, 91) or not (93); it is not changed. A piece of degree 3 is a
+ * uniform Bezier curve (85), one of any other degree a rational one (96) with weights of 1. Its control points are
+ * poly_2d (62) numbered from 0; its knots are two numbers, the ends of the span in the parameter of c (i and i + 1 for
+ * segment i of a uniform curve), over which the piece runs evenly from 0 to 1.
+ * @param[in] c  the curve
+ * @param[out] pieces  the pieces in order: curves that have nothing in common with c or each other, owned by the caller
+ *   and freed by kx_purge_curve; null to learn their number only; all null on 80 after the message of a piece,
+ *   unwritten on any other failure
+ * @param[in] room  number of pointers that fit into pieces; at most as many pieces are made as there are control points
+ * @param[out] count  number of pieces, also when there is no room for them; 0 on any other failure but that of a
+ *   piece's memory; may be null
+ * @return 0; 1 null curve or no control points; 2 too few of them or degree outside 1 to 15; 3 a curve of another type;
+ *   4 too few knots, knots that decrease or are not finite, or none that bound a span; 5 an item that is no point, or a
+ *   coordinate that is not finite or beyond 1e60; 7 no room; 80 no memory, after its message
+ */
+KX_API int32_t KX_CALL kx_bspl_to_bezier_curve2d(const curve *c, curve **pieces, int32_t room, int32_t *count);
+
+/**
+ * Turns a space B-spline (84, 88, 92, 98) into Bezier curves of types 86 and 97 with poly_3d points (63), in every
+ * respect as kx_bspl_to_bezier_curve2d does.
+ * @param[in] c  the curve
+ * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[in] room  as kx_bspl_to_bezier_curve2d
+ * @return as kx_bspl_to_bezier_curve2d
+ */
+KX_API int32_t KX_CALL kx_bspl_to_bezier_curve3d(const curve *c, curve **pieces, int32_t room, int32_t *count);
+
+/**
+ * Turns a NURBS curve into rational Bezier curves with kx_rat_bspl_to_bezier_curve2d or, for type 95, with
+ * kx_rat_bspl_to_bezier_curve3d.
+ * @param[in] c  the curve
+ * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[in] room  as kx_bspl_to_bezier_curve2d
+ * @return what that function returns
+ */
+KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve(const curve *c, curve **pieces, int32_t room, int32_t *count);
+
+/**
+ * Turns a plane NURBS curve (94) into rational Bezier curves (96) that together are the same curve: as
+ * kx_bspl_to_bezier_curve2d does, with the knots inserted into the weighted points and the weights alike.
+ * @param[in] c  the curve; its weights are to be above 0, and so are those of the pieces then
+ * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[in] room  as kx_bspl_to_bezier_curve2d
+ * @return as kx_bspl_to_bezier_curve2d; 6 fewer weights than control points, or one outside 1e-60 to 1e60
+ */
+KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve2d(const curve *c, curve **pieces, int32_t room, int32_t *count);
+
+/**
+ * Turns a space NURBS curve (95) into rational Bezier curves (97) with poly_3d points (63), in every respect as
+ * kx_rat_bspl_to_bezier_curve2d does.
+ * @param[in] c  the curve
+ * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[in] room  as kx_bspl_to_bezier_curve2d
+ * @return as kx_rat_bspl_to_bezier_curve2d
+ */
+KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve3d(const curve *c, curve **pieces, int32_t room, int32_t *count);
 
 #ifdef __cplusplus
 }

@@ -47,6 +47,27 @@ std::vector<R> records(const list_hdr *list) {
   return all;
 }
 
+inline std::vector<kx::vec3> coordinates(const list_hdr *list) {
+  std::vector<kx::vec3> all;
+  for (const list_item &item : kx::items(list))
+    all.push_back(kx::space::read(kx::read_point(item.data, item.datatype)));
+  return all;
+}
+
+inline void release(list_hdr *list) {
+  if (list == nullptr) return;
+  kx::release_items(*list);
+  EXPECT_EQ(ll_purge_list(list), 0);
+}
+
+// A list that a test frees at its end, whatever is in it.
+struct held {
+  list_hdr *list;
+  ~held() { release(list); }
+  operator list_hdr *() const { return list; }
+  list_hdr *operator->() const { return list; }
+};
+
 // A curve from a plane definer, and one from kx_def_nurb_curve; the emptied headers are freed.
 template <class Definer>
 curve *uniform(Definer define, int n, int32_t tag = KX_POLY_2D) {

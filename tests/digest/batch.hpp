@@ -21,6 +21,7 @@ void geometry();
 void polygon();
 void transform();
 void uniform_curves();
+void lists_of_samples();
 void nonuniform_curves();
 
 // ---- numbers ----

@@ -26,6 +26,22 @@ void done(curve *c) {
     if (kx_purge_curve(each) == 9) hash(kx_purge_curve(each));
 }
 
+// Hashes and frees the pieces of a curve.
+void pieces_of(const curve *c) {
+  using convert = std::int32_t(KX_CALL *)(const curve *, curve **, std::int32_t, std::int32_t *);
+  static const convert all[] = {kx_bspl_to_bezier_curve,       kx_bspl_to_bezier_curve2d,
+                                kx_bspl_to_bezier_curve3d,     kx_rat_bspl_to_bezier_curve,
+                                kx_rat_bspl_to_bezier_curve2d, kx_rat_bspl_to_bezier_curve3d};
+  for (const convert each : all) {
+    curve *pieces[20] = {};
+    std::int32_t count = 0;
+    hash(each(c, pieces, 20, &count)), hash(count);
+    for (curve *piece : pieces) {
+      if (piece) hash_curve(piece), kx_purge_curve(piece);
+    }
+  }
+}
+
 }  // namespace
 
 void uniform_curves() {
@@ -51,6 +67,7 @@ void uniform_curves() {
     hash(kx_eval_t_on_ucurve2d(c[2], below(9) * 0.125, pointers, &point, vectors, vectors + 1, vectors + 2));
     hash(point);
     for (const vector_2d &vector : vectors) hash_record(&vector);
+    pieces_of(c[2]);
     for (curve *each : c) done(each);
     for (list_hdr *list : ctrl) drop(list);
   }
@@ -63,6 +80,29 @@ void uniform_curves() {
   kx_purge_curv(words);
 }
 
+void lists_of_samples() {
+  for (int round = 0; round < 96; ++round) {
+    wild = round % 8 == 7;
+    const std::int32_t n = 4 + below(5), r = 3 + below(6);
+    const double a = number();
+    list_hdr *ctrl = points(n + below(2), tags[round % 4]);
+    for (list_hdr *made : {kx_catrom_curve(n, ctrl, r, a, nullptr), kx_bspline_curve(n, ctrl, r, nullptr),
+                           kx_bspline_spep(n, ctrl, r, nullptr), kx_quad_bspline(n, ctrl, r, nullptr)})
+      hash(made);
+    list_hdr out = {};
+    std::int32_t count = 0;
+    hash(kx_catrom_curve_2d(n, ctrl, r, a, &count, &out) + kx_bspline_2d(n, ctrl, r, &count, &out));
+    hash(kx_quad_bspline_2d(n, ctrl, r, &count, &out)), hash(count), hash_list(&out), ll_clear_all_items(&out);
+    hash(kx_catrom_curve_3d(n, ctrl, r, a, &count, &out) + kx_bspline_3d(n, ctrl, r, &count, &out));
+    hash(kx_quad_bspline_3d(n, ctrl, r, &count, &out)), hash(count), hash_list(&out), ll_clear_all_items(&out);
+    list_hdr *more = points(n, tags[round % 4]);
+    curve *c[2] = {kx_create_curve(), kx_def_ubetaspl_curve(more, number(), a)};
+    hash((below(2) ? kx_def_ubetaspl_curve2d : kx_def_ubetaspl_curve3d)(ctrl, c[0], a, number()));
+    for (curve *each : c) hash(kx_mk_ucurve(each, 0.25)), pieces_of(each), done(each);
+    drop(ctrl), drop(more);
+  }
+}
+
 void nonuniform_curves() {
   for (int round = 0; round < 120; ++round) {
     wild = round % 8 == 7;
@@ -70,7 +110,8 @@ void nonuniform_curves() {
     list_hdr *ctrl[4], *knots[4], *weights[4];
     for (int i = 0; i < 4; ++i)
       ctrl[i] = points(n, tag), knots[i] = numbers(n + p + below(2), true), weights[i] = numbers(n, false);
-    curve *c[4] = {kx_create_curve(), kx_def_nubspl_curve3d(ctrl[1], knots[1], p, 2), nullptr, kx_create_curve()};
+    curve *c[4] = {kx_create_curve(), (below(2) ? kx_def_nubspl_curve : kx_def_nubspl_curve3d)(ctrl[1], knots[1], p, 2),
+                   nullptr, kx_create_curve()};
     hash(kx_def_nubspl_curve2d(ctrl[0], knots[0], p + below(2), 3, c[0]));
     c[2] = kx_def_nurb_curve(ctrl[2], knots[2], weights[2], p, 1 + below(3));
     hash(tag == KX_PNT_3D || tag == KX_POLY_3D ? kx_def_nurb_curve3d(ctrl[3], knots[3], weights[3], p, 2, c[3])
@@ -78,6 +119,9 @@ void nonuniform_curves() {
     hash(kx_mk_nurb_curve(c[2], below(3), below(2), spans - below(2), below(4)));
     hash(kx_mk_nurb_curve2d(c[3], 0, 0, spans, 2));
     hash(kx_mk_nurb_curve3d(c[3], 1, 1, spans - 1, 3));
+    hash(kx_mk_nubspline(c[1], below(3), below(2), spans - below(2), below(4)));
+    hash(kx_mk_nubspline_2d(c[0], 0, 0, spans, 2) + kx_mk_nubspline_3d(c[1], 1, 1, spans - 1, 3));
+    for (curve *each : c) pieces_of(each);
     for (curve *each : c) done(each);
     for (int i = 0; i < 4; ++i) drop(ctrl[i]), drop(knots[i]), drop(weights[i]);
   }

@@ -18,6 +18,7 @@ int main() {
                                                              {"polygon", polygon},
                                                              {"transform", transform},
                                                              {"uniform curves", uniform_curves},
+                                                             {"lists of samples", lists_of_samples},
                                                              {"non-uniform curves", nonuniform_curves}};
   for (const auto &[name, run] : subsystems) {
     restart();
