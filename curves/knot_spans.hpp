@@ -68,10 +68,6 @@ struct span_request {
   std::int32_t skip, skip_enable, n_spans, steps;
 };
 
-// Samples of one call beyond which there is no memory by decree: no 32-bit host has room for them, and a step count
-// mistyped must not swallow the memory of a larger one.
-inline constexpr std::int64_t most_samples = 10000000;
-
 // Samples all spans of a curve of degree p = c->degree; V is the control point, plain or weighted, and
 // sample(c, points, knots, steps, number) appends the samples of one span to the curve: from its p + 1 points and its
 // 2p knots, of which knots[p-1] and knots[p] bound it. The codes are those of the exported makers, 6 for weighted ones

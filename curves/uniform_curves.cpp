@@ -65,6 +65,9 @@ class control_reader {
   list_item *head_, *at_;
 };
 
+constexpr const char *count_location(plane) { return "kx_mk_ucurve2d"; }
+constexpr const char *count_location(space) { return "kx_mk_ucurve3d"; }
+
 template <class D>
 std::int32_t make(curve *c, double step) {
   using vector = typename D::vector;
@@ -75,6 +78,10 @@ std::int32_t make(curve *c, double step) {
   std::int32_t n = kx::item_count(c->ctrl_pnts);
   if (n < 4) return 2;
   if (bezier) n -= n % 4;
+  if ((n - 3) / step >= kx::most_samples) {
+    kx::report_no_memory(count_location(D{}));
+    return 80;
+  }
 
   control_reader<D> control(*c->ctrl_pnts);
   vector g[4];

@@ -179,8 +179,8 @@ KX_API int32_t KX_CALL kx_mk_ucurve(curve *c, double step);
  * @param[in,out] c  the curve; step is noted in it. The control points' cursor ends behind the last one read, at the
  *   head after the tail; it stays where it is unless the result is 0
  * @param[in] step  parameter step; one that is not finite or not above 1e-7 (a negative one too) counts as 0.1
- * @return 0 done; 1 null curve; 2 fewer than 4 control points, or one without a record; 80 no memory, after its
- *   message; samples that were appended before stay
+ * @return 0 done; 1 null curve; 2 fewer than 4 control points, or one without a record; 80 no memory, or 10 million
+ *   samples or more, after the memory message; samples that were appended before stay
  */
 KX_API int32_t KX_CALL kx_mk_ucurve2d(curve *c, double step);
 

@@ -105,6 +105,15 @@ TEST(nurbs_curves, end_for_every_count) {
   }
 }
 
+TEST(nurbs_curves, refuse_samples_without_number) {
+  const owner c{nurbs(KX_POLY_2D, 5, 3, clamped(5, 3))};
+  for (int32_t steps : {5000000, 2147483647}) {
+    faults::clear_messages();
+    EXPECT_TRUE(kx_mk_nurb_curve2d(c, 0, 0, 2, steps) == 80 && c->curve_pnts->count == 0 && c->span_steps == 4);
+    EXPECT_EQ(faults::messages(), std::vector<std::string>{"Memory Error: mk_nurb_curve2d - 2"});
+  }
+}
+
 TEST(nurbs_curves, keep_their_samples_when_memory_runs_out) {
   const auto make = [](curve *c) { return kx_mk_nurb_curve(c, 0, 0, 2, 1); };
   for (const auto &[tag, text] : {std::pair{KX_POLY_2D, "mk_nurb_curve2d - 2"}, {KX_POLY_3D, "mk_nurb_curve3d - 2"}}) {

@@ -144,6 +144,15 @@ TEST(uniform_curves, evaluate_at_a_parameter) {
   EXPECT_EQ(kx_eval_t_on_ucurve2d(c, 0.3, g, &p, &u, &v, &n), 40);
 }
 
+TEST(uniform_curves, refuse_samples_without_number) {
+  const owner c{uniform(kx_def_ubspl_curve2d, 9)}, s{space_curve(kx_def_ubspl_curve3d, 9)};
+  faults::clear_messages();
+  EXPECT_TRUE(kx_mk_ucurve(c, 5.9e-7) == 80 && kx_mk_ucurve(s, 1.1e-7) == 80);
+  EXPECT_EQ(faults::messages(),
+            (std::vector<std::string>{"Memory Error: kx_mk_ucurve2d", "Memory Error: kx_mk_ucurve3d"}));
+  EXPECT_EQ(c->curve_pnts->count + s->curve_pnts->count, 0);
+}
+
 TEST(uniform_curves, keep_their_samples_when_memory_runs_out) {
   const auto plane = [] { return uniform(kx_def_ubspl_curve2d, 5); };
   const auto space = [] { return space_curve(kx_def_ubspl_curve3d, 5); };
