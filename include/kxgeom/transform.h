@@ -4,7 +4,7 @@
  * left: x' = m00*x + m10*y + m20, y' = m01*x + m11*y + m21; the translation sits in the last row and the last column is
  * not used. Builders multiply onto the right of what is there, so a sequence of calls acts in call order; start with
  * kx_getidmatrix2d or kx_getidmatrix3d. Angles are in degrees, counter-clockwise, with 0.01745329252 radians to the
- * degree.
+ * degree; only those in the records of coordinates are in radians.
  */
 #ifndef KXGEOM_TRANSFORM_H
 #define KXGEOM_TRANSFORM_H
@@ -401,6 +401,169 @@ KX_API int32_t KX_CALL kx_ludecomposition(double *band, int32_t n, int32_t m);
  * @return 0 always, also when a pointer is null and nothing is done
  */
 KX_API int32_t KX_CALL kx_forbacksubstitution(const double *band, int32_t n, int32_t m, double *b, double *x);
+
+/* ---- coordinates ---- */
+
+/* One point of space in four kinds of coordinates, all about the origin; angles are in radians.
+ * - rectangular, pnt_3d: x, y, z
+ * - cylindrical, cylcoord: x = r*cos(theta), y = r*sin(theta), z
+ * - spherical, sphercoord: x = r*sin(phi)*cos(theta), y = r*sin(phi)*sin(theta), z = r*cos(phi)
+ * - direction coordinates, polarcoord: x = r*cos(alpha), y = r*cos(beta), z = r*cos(gamma)
+ * What comes out has r from 0, theta from 0 to a full turn and the other angles from 0 to half a turn, whatever went
+ * in, save where noted. On the z axis theta is 0, at the origin every angle is. There and back again gives the same
+ * point to rounding: to a few units in the last place of its distance from the origin. Infinite coordinates and NaN
+ * give what IEEE arithmetic makes of them.
+ */
+
+/**
+ * Converts cylindrical coordinates to direction ones.
+ * @param[in] cyl  the point
+ * @param[out] polar  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_cyltopolar(const cylcoord *cyl, polarcoord *polar);
+
+/**
+ * Converts cylindrical coordinates to rectangular ones. Every angle will do, and a negative r.
+ * @param[in] cyl  the point
+ * @param[out] rect  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_cyltorect(const cylcoord *cyl, pnt_3d *rect);
+
+/**
+ * Converts cylindrical coordinates to spherical ones. A theta from 0 to a full turn is kept as it is when r is not
+ * negative.
+ * @param[in] cyl  the point
+ * @param[out] spher  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_cyltospher(const cylcoord *cyl, sphercoord *spher);
+
+/**
+ * Converts direction coordinates to cylindrical ones. Goes by the point that kx_polartorect gives.
+ * @param[in] polar  the point
+ * @param[out] cyl  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_polartocyl(const polarcoord *polar, cylcoord *cyl);
+
+/**
+ * Converts direction coordinates to rectangular ones. The three angles are taken as they are, also when no direction
+ * has them all.
+ * @param[in] polar  the point
+ * @param[out] rect  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_polartorect(const polarcoord *polar, pnt_3d *rect);
+
+/**
+ * Converts direction coordinates to spherical ones. Goes by the point that kx_polartorect gives.
+ * @param[in] polar  the point
+ * @param[out] spher  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_polartospher(const polarcoord *polar, sphercoord *spher);
+
+/**
+ * Converts rectangular coordinates to cylindrical ones. z is kept as it is.
+ * @param[in] rect  the point
+ * @param[out] cyl  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_recttocyl(const pnt_3d *rect, cylcoord *cyl);
+
+/**
+ * Converts rectangular coordinates to direction ones.
+ * @param[in] rect  the point
+ * @param[out] polar  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_recttopolar(const pnt_3d *rect, polarcoord *polar);
+
+/**
+ * Converts rectangular coordinates to spherical ones.
+ * @param[in] rect  the point
+ * @param[out] spher  the same point; untouched unless 0 is returned
+ * @return 0; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_recttospher(const pnt_3d *rect, sphercoord *spher);
+
+/**
+ * Converts spherical coordinates to cylindrical ones. The azimuth is kept as it is; a negative r stays negative. An
+ * azimuth outside 0 to a full turn, then a polar angle outside 0 to half a turn, is reported and not converted; each
+ * bound has the tolerance (bound + 1)*1e-7. The location in the messages is "kx_sphertocyl".
+ * @param[in] spher  the point
+ * @param[out] cyl  the same point; untouched unless 0 is returned
+ * @return 0; 59 after the message SPHRTHETA, 60 after SPHRPHI, 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_sphertocyl(const sphercoord *spher, cylcoord *cyl);
+
+/**
+ * Converts spherical coordinates to direction ones. An azimuth outside 0 to a full turn, then a polar angle outside 0
+ * to half a turn, is reported and not converted; each bound has the tolerance (bound + 1)*1e-7. The location in the
+ * messages is "kx_sphertocyl", on purpose.
+ * @param[in] spher  the point
+ * @param[out] polar  the same point; untouched unless 0 is returned
+ * @return 0; 59 after the message SPHRTHETA, 60 after SPHRPHI, 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_sphertopolar(const sphercoord *spher, polarcoord *polar);
+
+/**
+ * Converts spherical coordinates to rectangular ones. An azimuth outside 0 to a full turn, then a polar angle outside
+ * 0 to half a turn, is reported and not converted; each bound has the tolerance (bound + 1)*1e-7. The location in the
+ * messages is "kx_sphertorect".
+ * @param[in] spher  the point
+ * @param[out] rect  the same point; untouched unless 0 is returned
+ * @return 0; 59 after the message SPHRTHETA, 60 after SPHRPHI, 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_sphertorect(const sphercoord *spher, pnt_3d *rect);
+
+/* ---- entity coordinates ---- */
+
+/* The coordinates of an entity's own plane, as drawings store them: they share the world's origin, their z axis is the
+ * plane's normal, and the normal alone gives the other two. With N the normal made unit length, the x axis points along
+ * Wy x N when both |Nx| and |Ny| are below 1/64, otherwise along Wz x N, where Wy and Wz are the world's axes; the y
+ * axis is N x the x axis. The normal (0, 0, 1) gives the world's own axes, (0, 0, -1) turns x and z round.
+ * A normal whose length is 0 within 1e-7 or not finite is refused.
+ */
+
+/**
+ * Takes a point from entity coordinates to the world's: the inverse of kx_wcs_to_ecs to rounding.
+ * @param[in] normal  the normal of the entity's plane (an extrusion direction); of any length, only i, j, k are read
+ * @param[in] in  the point in entity coordinates
+ * @param[out] out  the same point in world coordinates; may be in; untouched unless 0 is returned
+ * @return 0; 25 when the normal has no direction; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_ecs_to_wcs(const vector_3d *normal, const pnt_3d *in, pnt_3d *out);
+
+/**
+ * Takes a point from world coordinates to an entity's: the inverse of kx_ecs_to_wcs to rounding.
+ * @param[in] normal  the normal of the entity's plane (an extrusion direction); of any length, only i, j, k are read
+ * @param[in] in  the point in world coordinates
+ * @param[out] out  the same point in entity coordinates, z along the normal; may be in; untouched unless 0 is returned
+ * @return 0; 25 when the normal has no direction; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_wcs_to_ecs(const vector_3d *normal, const pnt_3d *in, pnt_3d *out);
+
+/**
+ * The point of a plane where the plane's own x and y are 0: the foot of the perpendicular from the world's origin. In
+ * the plane's entity coordinates it is (0, 0, elevation).
+ * @param[in] plane  the plane, normalised or not
+ * @param[out] origin  the point in world coordinates; untouched unless 0 is returned
+ * @return 0; 25 when the plane has no normal; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_get_ecs_origin(const planeeq *plane, pnt_3d *origin);
+
+/**
+ * Adds the move that lays a plane into the xy plane after what the matrix does already: a point of the plane gets its
+ * entity coordinates x and y, and its signed distance from the plane, along the normal, as z. Lengths and angles stay.
+ * kx_getinversematrix3d leads back.
+ * @param[in] plane  the plane, normalised or not
+ * @param[in,out] matrix  16 doubles; untouched unless 0 is returned
+ * @return 0; 25 when the plane has no normal; 1 when an argument is null
+ */
+KX_API int32_t KX_CALL kx_plane_to_xy(const planeeq *plane, double *matrix);
 
 /* ---- viewing ---- */
 
