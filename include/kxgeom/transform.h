@@ -567,6 +567,34 @@ KX_API int32_t KX_CALL kx_plane_to_xy(const planeeq *plane, double *matrix);
 
 /* ---- viewing ---- */
 
+/* A viewer stands off the origin and looks at it. Seen coordinates have x to the right, y upwards and z away from the
+ * viewer, the depth; lengths stay as they are. */
+
+/**
+ * Adds the change from world to seen coordinates after what the matrix does already: the eye goes to the origin, the
+ * origin to (0, 0, r), and the z axis of the world points upwards.
+ * A viewer straight above (theta and phi 0 within 1e-7) has no upwards and keeps x and y; one straight below (theta 0,
+ * phi half a turn) keeps x and has y downwards. A theta of any number of turns will do; a full turn, unlike 0, does
+ * not make a viewer straight above.
+ * @param[in] viewer  where the eye is: its distance r from the origin, its azimuth theta and its angle phi from the z
+ *   axis, in radians; nothing is reported, whatever the angles are, and what is not finite gives what IEEE arithmetic
+ *   makes of it
+ * @param[in,out] matrix  16 doubles; does nothing when an argument is null
+ */
+KX_API void KX_CALL kx_viewmatrix3d(const sphercoord *viewer, double *matrix);
+
+/**
+ * Sees a point in perspective, on the plane at depth 1. A point at depth 0 divides by zero, as IEEE arithmetic has it;
+ * one behind the eye has a negative depth.
+ * @param[in] p  the point
+ * @param[in] eye  taken off the point before the matrix is applied: the eye for a matrix that only turns (that of a
+ *   viewer with r = 0), the origin for one that moves the eye to the origin by itself
+ * @param[in] view  16 doubles, as made by kx_viewmatrix3d
+ * @param[out] out  3 doubles: x/z, y/z and z of the seen point; may be p or eye; untouched when an argument is null
+ * @return out; null when an argument is null
+ */
+KX_API double *KX_CALL kx_perspective(const pnt_3d *p, const pnt_3d *eye, const double *view, double *out);
+
 /**
  * Maps a point from a window onto a viewport: the window's corner (x1, y1) falls on the viewport's, (x2, y2) likewise.
  * A window without width or height divides by zero, and infinities or NaN come out, as IEEE arithmetic has them.
@@ -576,6 +604,18 @@ KX_API int32_t KX_CALL kx_plane_to_xy(const planeeq *plane, double *matrix);
  * @param[out] out  its image; may be p; untouched when an argument is null
  */
 KX_API void KX_CALL kx_windowtransform(const rect_2d *window, const rect_2d *viewport, const pnt_2d *p, pnt_2d *out);
+
+/**
+ * Copies a list of plane points from a window onto a viewport, each as by kx_windowtransform. Items without data, and
+ * those of a kind too small for a poly_2d, are left out; a point that finds no memory is reported and left out, the
+ * others follow.
+ * @param[in,out] points  the points, poly_2d; the current item ends at the head
+ * @param[in] viewport  the rectangle mapped to
+ * @param[in] window  the rectangle mapped from
+ * @return the new list of poly_2d with their seqnr, its current item the last, to be freed by kx_purge_polygon; null
+ *   when the input is null or empty, a rectangle is null, or there is no memory for the list
+ */
+KX_API list_hdr *KX_CALL kx_viewplanetrf(list_hdr *points, const rect_2d *viewport, const rect_2d *window);
 
 #ifdef __cplusplus
 }

@@ -1,3 +1,4 @@
+// Left out, message box: kx_sphertocyl kx_sphertopolar kx_sphertorect
 #include <vector>
 
 #include "batch.hpp"
@@ -37,6 +38,10 @@ void band_systems() {
   }
 }
 
+void KX_CALL perspective(const pnt_3d *p, const pnt_3d *eye, const double *view, double *out) {
+  kx_perspective(p, eye, view, out);  // returns an address
+}
+
 }  // namespace
 
 void transform() {
@@ -54,6 +59,17 @@ void transform() {
   matrix_store(kx_storematrix2d, kx_restorematrix2d, kx_disposematrix2d);
   matrix_store(kx_storematrix3d, kx_restorematrix3d, kx_disposematrix3d);
   band_systems();
+  batches(kx_ecs_to_wcs, kx_wcs_to_ecs, kx_get_ecs_origin, kx_plane_to_xy, perspective, kx_viewplanetrf);
+  NEAR(kx_cyltopolar);
+  NEAR(kx_cyltorect);
+  NEAR(kx_cyltospher);
+  NEAR(kx_polartocyl);
+  NEAR(kx_polartorect);
+  NEAR(kx_polartospher);
+  NEAR(kx_recttocyl);
+  NEAR(kx_recttopolar);
+  NEAR(kx_recttospher);
+  NEAR(kx_viewmatrix3d);
 }
 
 }  // namespace digest
