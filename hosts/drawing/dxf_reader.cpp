@@ -48,30 +48,32 @@ class reader : public DL_CreationAdapter {
   }
 
   void addBlock(const DL_BlockData &data) override {
-    if (closing_) closing_->base = {data.bpx, data.bpy};
+    if (closing_) closing_->base = {.x = data.bpx, .y = data.bpy, .z = data.bpz};
   }
 
-  void addPoint(const DL_PointData &data) override { deliver(point_shape{{data.x, data.y}}, false); }
+  void addPoint(const DL_PointData &data) override { deliver(point_shape{at(data.x, data.y, data.z)}, false); }
 
   void addLine(const DL_LineData &data) override {
-    deliver(path_shape{.vertices = {{data.x1, data.y1}, {data.x2, data.y2}}}, false);
+    deliver(path_shape{.vertices = {at(data.x1, data.y1, data.z1), at(data.x2, data.y2, data.z2)}}, false);
   }
 
   void addArc(const DL_ArcData &data) override {
-    deliver(arc_shape{{data.cx, data.cy}, data.radius, data.angle1, data.angle2}, true);
+    deliver(arc_shape{at(data.cx, data.cy, data.cz), data.radius, data.angle1, data.angle2}, true);
   }
 
   void addCircle(const DL_CircleData &data) override {
-    deliver(arc_shape{.centre = {data.cx, data.cy}, .radius = data.radius, .whole = true}, true);
+    deliver(arc_shape{.centre = at(data.cx, data.cy, data.cz), .radius = data.radius, .whole = true}, true);
   }
 
   void addEllipse(const DL_EllipseData &data) override {
-    deliver(ellipse_shape{{data.cx, data.cy}, {data.mx, data.my}, data.ratio, data.angle1, data.angle2}, false);
+    deliver(ellipse_shape{at(data.cx, data.cy, data.cz), at(data.mx, data.my, data.mz), data.ratio, data.angle1,
+                          data.angle2},
+            false);
   }
 
   void addPolyline(const DL_PolylineData &data) override {
     const bool in_space = (data.flags & 8) != 0 && closing_ && closing_->ent.kind == "POLYLINE";
-    deliver(path_shape{.closed = (data.flags & 1) != 0}, !in_space);
+    deliver(path_shape{.closed = (data.flags & 1) != 0, .elevation = getExtrusion()->getElevation()}, !in_space);
   }
 
   void addVertex(const DL_VertexData &data) override {
@@ -81,7 +83,7 @@ class reader : public DL_CreationAdapter {
     std::optional<record> &owner = closing_->ent.kind == "VERTEX" ? polyline_ : closing_;
     if (!owner || frame) return;  // the frame of a fitted polyline is not part of its line
     if (auto *path = std::get_if<path_shape>(&owner->ent.geometry))
-      path->vertices.push_back({data.x, data.y, data.bulge});
+      path->vertices.push_back({data.x, data.y, data.bulge, owner->ent.entity_coordinates ? path->elevation : data.z});
   }
 
   void addTrace(const DL_TraceData &data) override { deliver(solid(data), true); }
@@ -100,7 +102,7 @@ class reader : public DL_CreationAdapter {
 
   void addControlPoint(const DL_ControlPointData &data) override {
     if (auto *spline = open_spline()) {
-      spline->control.push_back({data.x, data.y});
+      spline->control.push_back(at(data.x, data.y, data.z));
       spline->weights.push_back(data.w);
     }
   }
@@ -110,24 +112,22 @@ class reader : public DL_CreationAdapter {
   }
 
   void addInsert(const DL_InsertData &data) override {
-    deliver(insert_shape{data.name,
-                         {data.ipx, data.ipy},
-                         data.sx,
-                         data.sy,
-                         data.angle,
-                         std::max(data.cols, 1),
-                         std::max(data.rows, 1),
-                         data.colSp,
-                         data.rowSp},
+    deliver(insert_shape{data.name, at(data.ipx, data.ipy, data.ipz), data.sx, data.sy, data.sz, data.angle,
+                         std::max(data.cols, 1), std::max(data.rows, 1), data.colSp, data.rowSp},
             true);
   }
 
  private:
+  static vertex at(double x, double y, double z) { return {.x = x, .y = y, .z = z}; }
+
   // A fourth corner that the file leaves out is the third; dxflib has the origin there.
   std::vector<vertex> corners(const DL_TraceData &data, const std::array<int, 4> &order) const {
     const bool three = closing_ && closing_->count(13) == 0;
     std::vector<vertex> result;
-    for (const int i : order) result.push_back({data.x[three && i == 3 ? 2 : i], data.y[three && i == 3 ? 2 : i]});
+    for (const int corner : order) {
+      const int i = three && corner == 3 ? 2 : corner;
+      result.push_back(at(data.x[i], data.y[i], data.z[i]));
+    }
     return result;
   }
 
@@ -205,6 +205,7 @@ void reader::commit() {
     block_.reset();
   } else if ((section_ == "ENTITIES" || section_ == "BLOCKS") && kind != "SEQEND") {
     rec.ent.index = result_.entity_count++;
+    if (is_dimension(kind)) read_dimension(rec);
     if (kind == "POLYLINE") {
       polyline_ = std::move(rec);
     } else {

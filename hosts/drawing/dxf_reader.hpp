@@ -13,6 +13,7 @@ namespace kxdraw {
 struct vertex {
   double x = 0, y = 0;
   double bulge = 0;  // of the segment that starts here
+  double z = 0;
 };
 
 struct point_shape {
@@ -24,6 +25,7 @@ struct path_shape {
   std::vector<vertex> vertices = {};
   bool closed = false;
   bool filled = false;
+  double elevation = 0;  // of a polyline in entity coordinates
   int hidden_edges = 0;  // bit i: the edge from vertex i is not shown
 };
 
@@ -35,7 +37,8 @@ struct arc_shape {
   bool whole = false;
 };
 
-// ELLIPSE: half the axis as a vector, eccentric angles in radians.
+// ELLIPSE: half the axis as a vector, both in world coordinates; eccentric angles in radians, counter-clockwise seen
+// against the normal.
 struct ellipse_shape {
   vertex centre = {};
   vertex axis;
@@ -50,10 +53,11 @@ struct spline_shape {
   std::vector<double> knots = {};  // as the file has them, first and last included
 };
 
+// INSERT, and a dimension, which a block shows.
 struct insert_shape {
   std::string block;
   vertex at;
-  double sx = 1, sy = 1;
+  double sx = 1, sy = 1, sz = 1;
   double angle = 0;
   int columns = 1, rows = 1;
   double column_step = 0, row_step = 0;
@@ -71,10 +75,10 @@ struct entity {
   int color = 256;      // colour index; 0 as the block, 256 as the layer
   int true_color = -1;  // 0xRRGGBB, or -1
   shape geometry;
-  bool entity_coordinates = false;  // given in the plane of the normal, not in world coordinates
-  std::array<double, 3> normal = {0, 0, 1};
-  std::string fault;  // why it cannot be drawn, as far as reading tells
-  std::string note;   // what of it is not drawn
+  bool entity_coordinates = false;           // given in the plane of the normal, not in world coordinates
+  std::array<double, 3> normal = {0, 0, 1};  // the extrusion direction, of any length
+  std::string fault;                         // why it cannot be drawn, as far as reading tells
+  std::string note;                          // what of it is not drawn
 };
 
 struct block {

@@ -14,7 +14,8 @@ namespace {
 constexpr double absurd = 1e15;
 
 // Group codes of pairs that are judged beside what dxflib delivers.
-constexpr int handle_code = 5, invisible_code = 60, paper_code = 67, flags_code = 70;
+constexpr int name_code = 2, handle_code = 5, layer_code = 8, invisible_code = 60, color_code = 62, paper_code = 67;
+constexpr int flags_code = 70, true_color_code = 420;
 constexpr int knots_code = 72, control_code = 73, fit_code = 74, vertices_code = 90;
 constexpr int first_extended_code = 1000;
 
@@ -64,7 +65,8 @@ std::string fault_of(const record &rec) {
   if (rec.number(paper_code) != 0) return "it is in paper space";
   if (ent.kind == "POLYLINE" && (flags & 16) != 0) return "polygon meshes are not drawn";
   if (ent.kind == "POLYLINE" && (flags & 64) != 0) return "polyface meshes are not drawn";
-  if (std::holds_alternative<std::monostate>(ent.geometry)) return "this kind is not drawn";
+  if (std::holds_alternative<std::monostate>(ent.geometry))
+    return is_dimension(ent.kind) ? "it has no block that shows it" : "this kind is not drawn";
   if (rec.number(invisible_code) != 0) return "it is marked invisible";
   if (rec.bad_number) return "one of its numbers is not a number, or absurd";
   if (!ent.fault.empty()) return partial;
@@ -130,6 +132,16 @@ std::vector<group_pair> safe_pairs(const record &rec) {
       safe.push_back(pair);
   }
   return safe;
+}
+
+bool is_dimension(const std::string &kind) { return kind.ends_with("DIMENSION"); }
+
+void read_dimension(record &rec) {
+  if (rec.count(name_code) == 0) return;
+  rec.ent.geometry = insert_shape{.block = rec.text(name_code), .at = {}};
+  if (rec.count(layer_code) > 0) rec.ent.layer = rec.text(layer_code);
+  if (rec.count(color_code) > 0) rec.ent.color = rec.number(color_code);
+  if (rec.count(true_color_code) > 0) rec.ent.true_color = rec.number(true_color_code);
 }
 
 void judge(record &rec) {

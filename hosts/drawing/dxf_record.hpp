@@ -32,6 +32,10 @@ void read_pairs(record &rec);
 // because the same holds for the counts in hatches, leaders and line types.
 std::vector<group_pair> safe_pairs(const record &rec);
 
+// A dimension is drawn by a block of its own, in world coordinates, which its pairs name.
+bool is_dimension(const std::string &kind);
+void read_dimension(record &rec);
+
 // Settles what has been delivered: adds why it cannot be drawn, or only in part.
 void judge(record &rec);
 

@@ -13,6 +13,7 @@ namespace {
 constexpr int most_copies = 1'000'000;           // of entities in blocks
 constexpr std::size_t most_points = 10'000'000;  // of the whole picture
 constexpr std::size_t deepest_nesting = 100;
+constexpr const char *no_direction = "its extrusion direction has no length";
 constexpr const char *too_much = "the drawing grows beyond what one picture can hold";
 constexpr double default_fraction = 1e-4;    // of the drawing's longer side, when no tolerance is given
 constexpr double smallest_tolerance = 1e-5;  // below it shapes are sampled magnified
@@ -42,17 +43,74 @@ class extents_box {
   pnt_2d origin_{0, 0}, low_{0, 0}, high_{0, 0};
 };
 
-enum class facing { up, down, tilted };
+// A shape of space as one of the plane and what brings it to where it is seen from above.
+struct flat_shape {
+  const shape *geometry = nullptr;  // the entity's own, or the changed one
+  shape changed;
+  matrix transform;
+};
 
-facing facing_of(const std::array<double, 3> &normal) {
-  const double slight = 1e-6 * std::abs(normal[2]);
-  if (!(std::abs(normal[0]) <= slight && std::abs(normal[1]) <= slight) || normal[2] == 0) return facing::tilted;
-  return normal[2] > 0 ? facing::up : facing::down;
+// Sees the points of shapes that are given in the world: their lines and curves are seen as those of the seen points.
+struct seen_points {
+  const space_matrix &transform;
+
+  void see(vertex &at) const {
+    const pnt_3d image = transform.apply({at.x, at.y, at.z});
+    at = {.x = image.x, .y = image.y};
+  }
+  void operator()(point_shape &point) const { see(point.at); }
+  void operator()(path_shape &path) const {
+    for (vertex &at : path.vertices) see(at);
+  }
+  void operator()(spline_shape &spline) const {
+    for (vertex &at : spline.control) see(at);
+  }
+  template <typename other_shape>
+  void operator()(other_shape &) const {}  // lies in a plane of its own
+};
+
+// The height of a shape above the plane in whose coordinates it is given.
+struct height_of {
+  double operator()(const arc_shape &arc) const { return arc.centre.z; }
+  double operator()(const ellipse_shape &ellipse) const { return ellipse.centre.z; }
+  double operator()(const path_shape &path) const { return path.vertices.empty() ? 0 : path.vertices.front().z; }
+  template <typename other_shape>
+  double operator()(const other_shape &) const {
+    return 0;
+  }
+};
+
+bool to_entity(const normal_vector &normal, vertex &at) {
+  const vector_3d record = as_record(normal);
+  pnt_3d point{at.x, at.y, at.z};
+  if (kx_wcs_to_ecs(&record, &point, &point) != 0) return false;
+  at = {.x = point.x, .y = point.y, .z = point.z};
+  return true;
+}
+
+// False when the extrusion direction has no length. An ellipse is given in the world, but lies in a plane of its own.
+bool flatten(const entity &ent, const space_matrix &where, flat_shape &flat) {
+  flat.geometry = &ent.geometry;
+  if (!ent.entity_coordinates) {
+    flat.changed = ent.geometry;
+    flat.geometry = &flat.changed;
+    auto *ellipse = std::get_if<ellipse_shape>(&flat.changed);
+    if (ellipse == nullptr) {
+      std::visit(seen_points{where}, flat.changed);
+      return true;
+    }
+    if (!to_entity(ent.normal, ellipse->centre) || !to_entity(ent.normal, ellipse->axis)) return false;
+  }
+  space_matrix own;
+  if (!own.from_entity(ent.normal)) return false;
+  own.then(where);
+  flat.transform = own.seen_from_above(std::visit(height_of{}, *flat.geometry));
+  return true;
 }
 
 // Where a run through the entities stands: within which blocks, how transformed, and what BYBLOCK and layer 0 mean.
 struct place {
-  matrix transform;
+  space_matrix transform;
   std::vector<std::size_t> blocks;
   std::string layer = "0";
   rgb color;
@@ -114,23 +172,21 @@ class builder {
     if (!ent.fault.empty()) return ent.fault;
     copies_ += where.blocks.empty() ? 0 : 1;
     if (full()) return too_much;
-    const facing side = facing_of(ent.normal);
-    const bool flat_only = ent.entity_coordinates || std::holds_alternative<ellipse_shape>(ent.geometry);
-    if (flat_only && side == facing::tilted) return "it lies in a tilted plane";
     const std::string layer_name = ent.layer == "0" ? where.layer : ent.layer;
     const layer on = layer_of(layer_name);
     if (on.frozen) return "its layer is frozen";
+    if (name_key(layer_name) == "DEFPOINTS") return "its layer, of definition points, is never plotted";
     const auto *insert = std::get_if<insert_shape>(&ent.geometry);
     if (on.off && insert == nullptr) return "its layer is off";  // a block's parts have layers of their own
 
     place inner = where;
     inner.layer = layer_name;
     inner.color = color_of(ent, where, on);
-    if (insert != nullptr) return draw_insert(*insert, side == facing::down, inner);
-    return draw_shape(ent, side == facing::down, inner);
+    if (insert != nullptr) return draw_insert(ent, *insert, inner);
+    return draw_shape(ent, inner);
   }
 
-  std::string draw_insert(const insert_shape &insert, bool mirrored, place &inner) {
+  std::string draw_insert(const entity &ent, const insert_shape &insert, place &inner) {
     const auto found = source_.block_places.find(name_key(insert.block));
     if (found == source_.block_places.end()) return "the file has no block of its name";
     const std::size_t number = found->second;
@@ -139,21 +195,23 @@ class builder {
     if (inner.blocks.size() == deepest_nesting) return "its block is nested too deeply";
     const block &b = source_.blocks[number];
     if (rough_ && b.entities.empty()) return "";
-    const matrix outer = inner.transform;
+    const space_matrix outer = inner.transform;
+    space_matrix own;
+    if (ent.entity_coordinates && !own.from_entity(ent.normal)) return no_direction;
+    own.then(outer);
     inner.blocks.push_back(number);
     for (int row = 0; row < insert.rows; ++row) {
       for (int column = 0; column < insert.columns; ++column) {
         if (full()) return too_much;
         bool usable = true;
-        inner.transform = time_.measure(call_group::matrices, 7, [&] {
-          matrix m;
-          m.translate(-b.base.x, -b.base.y);
-          usable = m.scale(insert.sx, insert.sy);
-          m.translate(column * insert.column_step, row * insert.row_step);
+        inner.transform = time_.measure(call_group::matrices, 6, [&] {
+          space_matrix m;
+          m.translate(-b.base.x, -b.base.y, -b.base.z);
+          usable = m.scale(insert.sx, insert.sy, insert.sz);
+          m.translate(column * insert.column_step, row * insert.row_step, 0);
           m.rotate(insert.angle);
-          m.translate(insert.at.x, insert.at.y);
-          if (mirrored) m.mirror_x();
-          m.then(outer);
+          m.translate(insert.at.x, insert.at.y, insert.at.z);
+          m.then(own);
           return m;
         });
         if (!usable) return "a scale factor is zero or nearly so";
@@ -164,34 +222,35 @@ class builder {
     return "";
   }
 
-  std::string draw_shape(const entity &ent, bool mirrored, const place &where) {
+  std::string draw_shape(const entity &ent, const place &where) {
     double magnify = 1;
-    matrix transform;
+    flat_shape flat;
     double tolerance = result_.tolerance;
-    time_.measure(call_group::matrices, 3, [&] {
-      if (ent.entity_coordinates && mirrored) transform.mirror_x();
-      transform.then(where.transform);
-      const double stretch = transform.stretch();
+    const bool directed = time_.measure(call_group::matrices, 3, [&] {
+      if (!flatten(ent, where.transform, flat)) return false;
+      const double stretch = flat.transform.stretch();
       if (stretch > 0) tolerance /= stretch;
+      return true;
     });
+    if (!directed) return no_direction;
     std::vector<point_path> paths;
     if (rough_) {
-      owned_list points = rough_points(ent.geometry, time_);
+      owned_list points = rough_points(*flat.geometry, time_);
       if (points.size() > 0) paths.push_back({std::move(points)});
     } else {
       while (tolerance * magnify < smallest_tolerance && magnify < 1e30) magnify /= smallest_factor;
-      sampled_shape sampled = sample_shape(ent.geometry, mirrored, tolerance, magnify, time_);
+      sampled_shape sampled = sample_shape(*flat.geometry, tolerance, magnify, time_);
       if (!sampled.fault.empty()) return sampled.fault;
       if (!sampled.note.empty()) result_.fates[ent.index].note = sampled.note;
       paths = std::move(sampled.paths);
       if (magnify > 1) {
         matrix reduce;
-        for (double left = magnify; left > 1; left *= smallest_factor) reduce.scale(smallest_factor, smallest_factor);
-        reduce.then(transform);
-        transform = reduce;
+        for (double left = magnify; left > 1; left *= smallest_factor) reduce.scale(smallest_factor);
+        reduce.then(flat.transform);
+        flat.transform = reduce;
       }
     }
-    return place_paths(ent, paths, transform, where.color);
+    return place_paths(ent, paths, flat.transform, where.color);
   }
 
   std::string place_paths(const entity &ent, const std::vector<point_path> &paths, const matrix &transform,

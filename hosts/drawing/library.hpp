@@ -103,27 +103,8 @@ class matrix {
  public:
   matrix() { kx_getidmatrix2d(values_.data()); }
 
-  void translate(double dx, double dy) { kx_translatematrix2d(dx, dy, values_.data()); }
-  void rotate(double degrees) { kx_rotationmatrix2d(degrees, &origin, values_.data()); }
-  void mirror_x() { kx_reflectmatrix2d(1, values_.data()); }
-  void mirror_y() { kx_reflectmatrix2d(0, values_.data()); }
+  void scale(double factor) { kx_scalematrix2d(factor, factor, &origin, values_.data()); }
   void then(const matrix &next) { kx_mat33mult(next.values_.data(), values_.data()); }
-
-  // The library takes two factors that are both small or negative for 1: the signs are reflections here, and factors
-  // that are too small in spite of that are refused.
-  bool scale(double sx, double sy) {
-    const double width = std::abs(sx), height = std::abs(sy);
-    if (kx_parmlezero(width, 1e-7) == 1 || kx_parmlezero(height, 1e-7) == 1) return false;
-    kx_scalematrix2d(width, height, &origin, values_.data());
-    if (sx < 0 && sy < 0) {
-      kx_reflectmatrix2d(2, values_.data());
-    } else if (sx < 0) {
-      mirror_x();
-    } else if (sy < 0) {
-      mirror_y();
-    }
-    return true;
-  }
 
   // How much it lengthens at most: the larger singular value.
   double stretch() const {
@@ -135,8 +116,67 @@ class matrix {
   owned_list apply(list_hdr *list) const { return owned_list(kx_transfpolygon(values_.data(), list)); }
 
  private:
+  friend class space_matrix;
   static constexpr pnt_2d origin{0, 0};
   std::array<double, 9> values_;
+};
+
+using normal_vector = std::array<double, 3>;
+
+inline vector_3d as_record(const normal_vector &normal) { return {0, 0, normal[0], normal[1], normal[2]}; }
+
+// A matrix of space; each step acts after what the matrix does already.
+class space_matrix {
+ public:
+  space_matrix() { kx_getidmatrix3d(values_.data()); }
+
+  void translate(double dx, double dy, double dz) { kx_translatematrix3d(dx, dy, dz, values_.data()); }
+  void rotate(double degrees) { kx_rotationmatrix3d(2, degrees, nullptr, values_.data()); }
+  void then(const space_matrix &next) { kx_mat44mult(next.values_.data(), values_.data()); }
+
+  // The library takes factors that are small or negative for 1: the signs are reflections here, and factors of x and y
+  // that are too small in spite of that are refused. Drawings of the plane leave that of z at zero: it stays 1.
+  bool scale(double sx, double sy, double sz) {
+    const double width = std::abs(sx), height = std::abs(sy);
+    if (kx_parmlezero(width, 1e-7) == 1 || kx_parmlezero(height, 1e-7) == 1) return false;
+    kx_scalematrix3d(width, height, std::abs(sz), &origin, values_.data());
+    if (sx < 0) kx_reflectmatrix3d(0, values_.data());
+    if (sy < 0) kx_reflectmatrix3d(1, values_.data());
+    if (sz < 0) kx_reflectmatrix3d(2, values_.data());
+    return true;
+  }
+
+  // From the coordinates of an entity to the world's; false when the normal has no direction.
+  bool from_entity(const normal_vector &normal) {
+    const vector_3d record = as_record(normal);
+    space_matrix axes;
+    for (std::size_t i = 0; i < 3; ++i) {
+      const pnt_3d unit{i == 0 ? 1.0 : 0.0, i == 1 ? 1.0 : 0.0, i == 2 ? 1.0 : 0.0};
+      pnt_3d axis{};
+      if (kx_ecs_to_wcs(&record, &unit, &axis) != 0) return false;
+      kx_get_pnt_3d(&axes.values_[4 * i], &axes.values_[4 * i + 1], &axes.values_[4 * i + 2], &axis);
+    }
+    then(axes);
+    return true;
+  }
+
+  pnt_3d apply(const pnt_3d &at) const {
+    pnt_3d image{};
+    kx_transformpnt3d(values_.data(), &at, &image);
+    return image;
+  }
+
+  // What it does to the points of a plane of that height, seen from above.
+  matrix seen_from_above(double height) const {
+    const auto &m = values_;
+    matrix seen;
+    seen.values_ = {m[0], m[1], 0, m[4], m[5], 0, m[8] * height + m[12], m[9] * height + m[13], 1};
+    return seen;
+  }
+
+ private:
+  static constexpr pnt_3d origin{0, 0, 0};
+  std::array<double, 16> values_;
 };
 
 }  // namespace kxdraw

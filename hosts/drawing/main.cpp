@@ -33,8 +33,11 @@ constexpr const char *help =
     "  -q            no table: only a line on standard error when something is skipped\n"
     "\n"
     "Drawn: LINE, POINT, LWPOLYLINE, POLYLINE, CIRCLE, ARC, ELLIPSE, SPLINE, SOLID, TRACE, 3DFACE, and what INSERTs\n"
-    "bring, seen from above; every line solid and of one width. Everything else is named and counted. In the table a\n"
-    "VERTEX is a part of its POLYLINE; copies counts what inserted blocks repeat.\n"
+    "and DIMENSIONs bring by their blocks, seen from above, in planes of any extrusion direction; every line solid "
+    "and\n"
+    "of one width. Everything else is named and counted. In the table a VERTEX is a part of its POLYLINE; copies "
+    "counts\n"
+    "what inserted blocks repeat.\n"
     "Exit status: 0 drawn, 1 the drawing cannot be read or the picture not be written, 2 wrong arguments.\n";
 
 struct options {

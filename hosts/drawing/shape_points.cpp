@@ -16,7 +16,6 @@ std::string status_text(const char *function, std::int32_t status, const char *m
 }
 
 struct shape_sampler {
-  bool mirrored_plane;
   double tolerance;
   double magnify;
   library_time &time;
@@ -55,12 +54,11 @@ struct shape_sampler {
     keep(std::move(out), arc.whole ? "kx_circlepnts_2d" : "kx_arcpnts_2d", status, "radius not above 0");
   }
 
-  // Seen against its normal an ellipse runs the other way round, from its end to its start.
   void operator()(const ellipse_shape &shape) {
     const double length = std::sqrt(kx_sumsqrdparms(shape.axis.x, shape.axis.y));
     const ellipse_2d ellipse{
         shape.centre.x * magnify, shape.centre.y * magnify, length * magnify, length * shape.ratio * magnify, 0, 0};
-    const double start = kx_degrees(mirrored_plane ? -shape.end : shape.start);
+    const double start = kx_degrees(shape.start);
     double sweep = kx_degrees(shape.end - shape.start);
     if (sweep <= 0) sweep = std::fmod(sweep, 360) + 360;
     const bool whole = kx_parmeq(sweep, 360, 1e-9) == 1;
@@ -279,9 +277,8 @@ struct rough_outline {
 
 }  // namespace
 
-sampled_shape sample_shape(const shape &geometry, bool mirrored_plane, double tolerance, double magnify,
-                           library_time &time) {
-  shape_sampler sampler{mirrored_plane, tolerance, magnify, time, {}};
+sampled_shape sample_shape(const shape &geometry, double tolerance, double magnify, library_time &time) {
+  shape_sampler sampler{tolerance, magnify, time, {}};
   std::visit(sampler, geometry);
   return std::move(sampler.result);
 }

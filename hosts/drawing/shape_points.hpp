@@ -24,9 +24,8 @@ struct sampled_shape {
 
 // Points of a shape so close that no chord leaves it by more than the tolerance. All coordinates come out magnified by
 // a power of two: the library takes tolerances and radii within 1e-7 of zero for none, so shapes that small are sampled
-// larger.
-sampled_shape sample_shape(const shape &geometry, bool mirrored_plane, double tolerance, double magnify,
-                           library_time &time);
+// larger. Heights are left out.
+sampled_shape sample_shape(const shape &geometry, double tolerance, double magnify, library_time &time);
 
 // A few points around which the shape lies, for a first idea of a drawing's size.
 owned_list rough_points(const shape &geometry, library_time &time);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the sample drawings beside this file: plate, curves, blocks and faults, as plain DXF."""
+"""Writes the sample drawings beside this file: plate, curves, blocks, planes and faults, as plain DXF."""
 import math
 import os
 
@@ -64,10 +64,11 @@ class Drawing:
             groups += [10, x, 20, y] + ([42, bulge[0]] if bulge else [])
         self.entity("LWPOLYLINE", layer, 90, len(points), 70, int(closed), *groups, *pairs, **more)
 
-    def old_polyline(self, layer, points, flags=0, **more):
-        self.entity("POLYLINE", layer, 66, 1, 10, 0.0, 20, 0.0, 30, 0.0, 70, flags, **more)
-        for x, y, *bulge in points:
-            self.entity("VERTEX", layer, 10, x, 20, y, 30, 0.0, 42, bulge[0] if bulge else 0.0)
+    def old_polyline(self, layer, points, flags=0, **own):
+        self.entity("POLYLINE", layer, 66, 1, 10, 0.0, 20, 0.0, 30, 0.0, 70, flags, **own)
+        for x, y, *more in points:  # a bulge in the plane, a height in space
+            last = (30, more[0]) if flags & 8 else (30, 0.0, 42, more[0] if more else 0.0)
+            self.entity("VERTEX", layer, 10, x, 20, y, *last)
         self.entity("SEQEND", layer)
 
     def spline(self, layer, degree, control, knots=None, weights=None, flags=8, **more):
@@ -79,8 +80,8 @@ class Drawing:
             groups += [40, float(knot)]
         for weight in weights or []:
             groups += [41, float(weight)]
-        for x, y in control:
-            groups += [10, x, 20, y, 30, 0.0]
+        for x, y, *z in control:
+            groups += [10, x, 20, y, 30, z[0] if z else 0.0]
         self.entity("SPLINE", layer, 70, flags + (4 if weights else 0), 71, degree, 72, len(knots), 73, len(control),
                     74, 0, *groups, **more)
 
@@ -294,6 +295,62 @@ def blocks():
     d.write("blocks.dxf")
 
 
+def planes():
+    """Entities in planes of their own: patches on a sphere, and a lantern that lies on its sides."""
+    d = Drawing()
+    for name, color in (("PATCHES", 5), ("STARS", 30), ("MARKS", 8), ("LANTERN", 94), ("MEASURES", 1)):
+        d.layer(name, color)
+    d.block("STAR", 0.0, 0.0)
+    d.polyline("0", [(*polar(0, 0, 7.0 if i % 2 else 3.2, 36.0 * i), 0.2) for i in range(10)], True)
+    d.entity("SOLID", "MARKS", 10, -1.5, 20, -1.5, 30, 0.0, 11, 1.5, 21, -1.5, 31, 0.0, 12, 0.0, 22, 2.0, 32, 0.0)
+    d.end()
+    d.block("LANTERN", 0.0, 0.0)
+    for z, r in ((0.0, 6.0), (16.0, 9.0), (20.0, 3.0)):
+        d.entity("CIRCLE", "0", 10, 0.0, 20, 0.0, 30, z, 40, r)
+    for i in range(6):
+        (x, y), (u, v), (p, q) = polar(0, 0, 6, 60 * i), polar(0, 0, 9, 60 * i), polar(0, 0, 3, 60 * i)
+        d.entity("LINE", "0", 10, x, 20, y, 30, 0.0, 11, u, 21, v, 31, 16.0)
+        d.old_polyline("0", [(u, v, 16.0), (p, q, 20.0), (0.0, 0.0, 21.0)], 8)
+        d.entity("ELLIPSE", "MARKS", 10, u * 0.83, 20, v * 0.83, 30, 8.0, 11, 0.0, 21, 0.0, 31, 4.0, 40, 0.45, 41, 0.0,
+                 42, 2 * math.pi, 210, u, 220, v, 230, 0.0, color=30)
+    turns = [polar(0, 0, 6 + 0.1 * i, 45 * i) for i in range(28)]
+    d.spline("0", 3, [(x, y, 0.6 * i) for i, (x, y) in enumerate(turns)], color=1)
+    d.entity("3DFACE", "MARKS", 10, -2.0, 20, -2.0, 30, 20.0, 11, 2.0, 21, -2.0, 31, 20.0, 12, 0.0, 22, 0.0, 32, 26.0)
+    d.end()
+    d.block("*D1")  # what shows a dimension, in world coordinates
+    for x in (-64.0, 64.0):
+        d.line("0", x, -4.0, x, -76.0)
+        d.entity("POINT", "Defpoints", 10, x, 20, -4.0, 30, 0.0)
+    d.line("0", -64.0, -74.0, 64.0, -74.0)
+    for side in (-1.0, 1.0):
+        d.entity("SOLID", "0", 10, 64.0 * side, 20, -74.0, 30, 0.0, 11, 58.0 * side, 21, -73.0, 31, 0.0,
+                 12, 58.0 * side, 22, -75.0, 32, 0.0)
+    d.end()
+
+    for tilt, count in ((0, 1), (24, 6), (48, 12), (70, 15), (89, 18)):
+        for i in range(count):
+            turn = 360.0 * i / count + tilt / 5
+            (side, up), z = polar(0, 0, 1, turn), math.cos(math.radians(tilt))
+            size = 2.0 + i  # of any length
+            normal = (210, size * side * math.sin(math.radians(tilt)), 220, size * up * math.sin(math.radians(tilt)),
+                      230, size * z)
+            d.entity("CIRCLE", "PATCHES", 10, 0.0, 20, 0.0, 30, 62.0, 40, 10.4, *normal)
+            d.entity("LWPOLYLINE", "PATCHES", 90, 4, 70, 1, 38, 64.0, 10, 8.0, 20, 0.0, 42, 0.4, 10, 0.0, 20, 8.0, 10, -8.0,
+                     20, 0.0, 42, 0.4, 10, 0.0, 20, -8.0, *normal, color=152)
+            d.entity("INSERT", "STARS", 2, "STAR", 10, 0.0, 20, 0.0, 30, 64.0, 41, 1.0, 42, 1.0, 43, 1.0, 50, 90.0, *normal)
+    for i in range(8):
+        side, up = polar(0, 0, 1, 45 * i)
+        far, stretch = (104.0, -1.0) if i % 2 else (82.0, 1.2)  # every other one points inwards
+        d.entity("INSERT", "LANTERN", 2, "LANTERN", 10, 0.0, 20, 0.0, 30, far, 41, 1.0, 42, 1.0, 43, stretch, 50, 15.0 * i,
+                 210, side, 220, up, 230, 0.1 * i - 0.3)
+    d.entity("ARC", "MARKS", 10, 0.0, 20, 0.0, 30, 0.0, 40, 112.0, 50, 58.0, 51, 122.0, 210, 0.0, 220, -0.8, 230, 0.6)
+    d.entity("TRACE", "MARKS", 10, 100.0, 20, 90.0, 30, 5.0, 11, 100.0, 21, 98.0, 31, 5.0, 12, 70.0, 22, 90.0, 32, 5.0,
+             13, 70.0, 23, 98.0, 33, 5.0, 210, 0.0, 220, 0.3, 230, 1.0)
+    d.entity("POINT", "MARKS", 10, 0.0, 20, 108.0, 30, 50.0, 210, 1.0, 220, 0.0, 230, 0.0)  # a thickness, not a plane
+    d.entity("DIMENSION", "MEASURES", 2, "*D1", 10, 0.0, 20, -74.0, 30, 0.0, 70, 32)
+    d.write("planes.dxf")
+
+
 def faults():
     d = Drawing()
     d.layer("OFF", -3)
@@ -318,7 +375,9 @@ def faults():
     d.insert("0", "NOWHERE", 0.0, 0.0)
     d.insert("0", "SNAKE", 0.0, 0.0, 0.0, 1.0)
     d.circle("0", 5.0, 5.0, 0.0)
-    d.circle("0", 5.0, 5.0, 3.0, 210, 0.0, 220, 0.6, 230, 0.8)
+    d.circle("0", 5.0, 5.0, 3.0, 210, 0.0, 220, 0.0, 230, 0.0)
+    d.entity("DIMENSION", "0", 10, 0.0, 20, 0.0, 30, 0.0, 70, 32)
+    d.entity("DIMENSION", "0", 2, "*D7", 10, 0.0, 20, 0.0, 30, 0.0, 70, 32)
     d.circle("OFF", 5.0, 5.0, 3.0)
     d.circle("FROZEN", 5.0, 5.0, 3.0)
     d.circle("0", 5.0, 5.0, 3.0, 67, 1)
@@ -339,4 +398,5 @@ if __name__ == "__main__":
     plate()
     curves()
     blocks()
+    planes()
     faults()
