@@ -13,12 +13,13 @@ int main(int count, char **arguments) {
     folder = arguments[2];
   } else if (count != 1) {
     std::cerr << "usage: kxplates [-o FOLDER]\n"
-                 "Draws relationships and polygons, each as .svg and .png, into FOLDER (the current one without -o).\n";
+                 "Draws relationships, polygons and wireframes, each as .svg and .png, into FOLDER (the current one "
+                 "without -o).\n";
     return 2;
   }
   try {
     std::filesystem::create_directories(folder);
-    for (const kxplates::plate &plate : {kxplates::relationships(), kxplates::polygons()}) {
+    for (const kxplates::plate &plate : {kxplates::relationships(), kxplates::polygons(), kxplates::wireframes()}) {
       kxplates::write_plate(folder, plate.name, plate.size, plate.paint);
       for (const std::string &line : plate.told) std::cout << plate.name << ": " << line << '\n';
     }

@@ -18,5 +18,6 @@ struct plate {
 
 plate relationships();
 plate polygons();
+plate wireframes();
 
 }  // namespace kxplates

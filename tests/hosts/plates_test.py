@@ -1,4 +1,5 @@
-"""Runs kxplates: every relationship code is drawn once, the two forms of point in polygon agree, the files are pictures.
+"""Runs kxplates: every relationship code is drawn once, the two forms of point in polygon agree, what
+viewers see stands where their place says, the files are pictures.
 
 usage: plates_test.py KXPLATES
 """
@@ -14,7 +15,7 @@ class Plates(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             run = subprocess.run([sys.argv[1], "-o", os.path.join(folder, "new")], capture_output=True, text=True)
             self.assertEqual((run.returncode, run.stderr), (0, ""))
-            for name in ("relationships", "polygons"):
+            for name in ("relationships", "polygons", "wireframes"):
                 for ending, start in ((".svg", b"<?xml"), (".png", b"\x89PNG")):
                     with open(os.path.join(folder, "new", name + ending), "rb") as file:
                         self.assertEqual(file.read(len(start)), start)
@@ -23,6 +24,7 @@ class Plates(unittest.TestCase):
         self.assertEqual(sorted(codes), [0, *range(8, 30), *crossing, *range(120, 126)])
         self.assertEqual(run.stdout.count(" 0 disagree"), 3)
         self.assertEqual(run.stdout.count("meets itself"), 4)
+        self.assertEqual(run.stdout.count(": 40 points, 0 astray"), 18)
 
     def test_arguments(self):
         self.assertEqual(subprocess.run([sys.argv[1], "here"], capture_output=True).returncode, 2)
