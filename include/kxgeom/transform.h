@@ -560,7 +560,7 @@ KX_API int32_t KX_CALL kx_get_ecs_origin(const planeeq *plane, pnt_3d *origin);
  * entity coordinates x and y, and its signed distance from the plane, along the normal, as z. Lengths and angles stay.
  * kx_getinversematrix3d leads back.
  * @param[in] plane  the plane, normalised or not
- * @param[in,out] matrix  16 doubles; untouched unless 0 is returned
+ * @param[in,out] matrix[16]  untouched unless 0 is returned
  * @return 0; 25 when the plane has no normal; 1 when an argument is null
  */
 KX_API int32_t KX_CALL kx_plane_to_xy(const planeeq *plane, double *matrix);
@@ -579,7 +579,7 @@ KX_API int32_t KX_CALL kx_plane_to_xy(const planeeq *plane, double *matrix);
  * @param[in] viewer  where the eye is: its distance r from the origin, its azimuth theta and its angle phi from the z
  *   axis, in radians; nothing is reported, whatever the angles are, and what is not finite gives what IEEE arithmetic
  *   makes of it
- * @param[in,out] matrix  16 doubles; does nothing when an argument is null
+ * @param[in,out] matrix[16]  does nothing when an argument is null
  */
 KX_API void KX_CALL kx_viewmatrix3d(const sphercoord *viewer, double *matrix);
 
@@ -589,8 +589,8 @@ KX_API void KX_CALL kx_viewmatrix3d(const sphercoord *viewer, double *matrix);
  * @param[in] p  the point
  * @param[in] eye  taken off the point before the matrix is applied: the eye for a matrix that only turns (that of a
  *   viewer with r = 0), the origin for one that moves the eye to the origin by itself
- * @param[in] view  16 doubles, as made by kx_viewmatrix3d
- * @param[out] out  3 doubles: x/z, y/z and z of the seen point; may be p or eye; untouched when an argument is null
+ * @param[in] view[16]  a matrix as made by kx_viewmatrix3d
+ * @param[out] out[3]  x/z, y/z and z of the seen point; may be p or eye; untouched when an argument is null
  * @return out; null when an argument is null
  */
 KX_API double *KX_CALL kx_perspective(const pnt_3d *p, const pnt_3d *eye, const double *view, double *out);
