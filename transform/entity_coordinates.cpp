@@ -16,7 +16,7 @@ constexpr int32_t no_plane = 25;
 
 // The axes of a plane's coordinates in the world, of unit length and at right angles.
 struct entity_axes {
-  vec3 x, y, z;
+  vec3 x{}, y{}, z{};
   double scale = 0.0;   // the normal's largest component...
   double length = 0.0;  // ...and its length in that unit; 0 without a direction
 

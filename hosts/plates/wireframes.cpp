@@ -162,6 +162,7 @@ std::vector<spot> on_page(const view &seen, double width, spot corner) {
   std::vector<pnt_2d> points(seen.points.size());
   kx_get_xypolyheap(mapped.get(), points.data(), &count);
   std::vector<spot> spots;
+  spots.reserve(points.size());
   for (const pnt_2d &p : points) spots.push_back({p.x, p.y});
   return spots;
 }

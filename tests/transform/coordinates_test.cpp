@@ -22,8 +22,8 @@ To converted(int32_t(KX_CALL *convert)(const From *, To *), const From &from) {
 }
 
 void expect_same(const pnt_3d &a, const pnt_3d &b) {
-  const double far = std::hypot(a.x, a.y, a.z);
-  EXPECT_LE(std::hypot(a.x - b.x, a.y - b.y, a.z - b.z), 1e-15 * far) << a.x << " " << a.y << " " << a.z;
+  const double distance = std::hypot(a.x, a.y, a.z);
+  EXPECT_LE(std::hypot(a.x - b.x, a.y - b.y, a.z - b.z), 1e-15 * distance) << a.x << " " << a.y << " " << a.z;
 }
 
 TEST(Coordinates, EveryWayRoundLeadsBack) {
