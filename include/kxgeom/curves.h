@@ -674,6 +674,289 @@ KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve2d(const curve *c, curve **pie
  * @return as kx_rat_bspl_to_bezier_curve2d
  */
 KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve3d(const curve *c, curve **pieces, int32_t room, int32_t *count);
+/* ---- curve evaluation ---- */
+
+/* From here on functions serve every kind of curve. They read the record as it stands, of the control points of any of
+ * the four kinds: those of a space curve without z have z 0, those of a plane curve lose theirs. Parameters: a uniform
+ * curve of n control points runs from 0 to n - 3, a uniform Bezier curve from 0 to n / 4, one unit for each segment or
+ * group of four points; a non-uniform B-spline or NURBS curve of degree p from knot p-1 to knot n-1 (the knot vector is
+ * the textbook's without its first and last knot, further knots are not read); a rational Bezier curve from 0 to 1. A
+ * parameter beyond an end by no more than its allowance is the end. At a joint the curve is the piece that begins
+ * there: it matters where control points, knots or basis let the curve jump or break.
+ *
+ * All of them answer alike: 0; 1 null curve or no control points; 2 too few control points, or a degree outside 1 to 15
+ * (rational Bezier: 1 to 30); 3 a curve of the other dimension or of no known type; 4 too few knots, knots that
+ * decrease or are not finite, or no span among them; 5 an item that is no point, or a coordinate or basis element that
+ * is not finite or beyond 1e60; 6 too few weights, or one outside 1e-60 to 1e60; 7 a parameter outside the range or no
+ * number; 8 a value out of range, as each function says; 9 too much work, as each function says; 10 not enough room;
+ * 40 a null argument; 80 no memory, without a message. Outputs are unwritten unless the result is 0 or the function
+ * says otherwise. No list is changed and no cursor moves.
+ */
+
+/**
+ * The parameters of a curve's ends, plane or space.
+ * @param[in] c  the curve
+ * @param[out] from,to  the parameters
+ * @return 0; 1 to 6, 40, 80 as said above
+ */
+KX_API int32_t KX_CALL kx_curve_range(const curve *c, double *from, double *to);
+
+/**
+ * The point of a plane curve at a parameter. For many parameters kx_curve_pntsat_2d is far quicker: each call here
+ * reads the whole record.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[out] pnt  the point
+ * @return 0; 1 to 7, 40, 80 as said above
+ */
+KX_API int32_t KX_CALL kx_curve_pnt_2d(const curve *c, double t, pnt_2d *pnt);
+
+/**
+ * The point of a space curve at a parameter, as kx_curve_pnt_2d.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[out] pnt  the point
+ * @return as kx_curve_pnt_2d
+ */
+KX_API int32_t KX_CALL kx_curve_pnt_3d(const curve *c, double t, pnt_3d *pnt);
+
+/**
+ * The point of a plane curve and its derivatives by the parameter. Orders above the degree are 0 for a curve without
+ * weights.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[in] order  highest derivative wanted, 0 to 30
+ * @param[out] out  order + 1 rows of x, y, the point first
+ * @return 0; 1 to 7, 40, 80 as said above; 8 order out of range
+ */
+KX_API int32_t KX_CALL kx_curve_derivs_2d(const curve *c, double t, int32_t order, double *out);
+
+/**
+ * The point of a space curve and its derivatives, as kx_curve_derivs_2d.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[in] order  highest derivative wanted, 0 to 30
+ * @param[out] out  order + 1 rows of x, y, z, the point first
+ * @return as kx_curve_derivs_2d
+ */
+KX_API int32_t KX_CALL kx_curve_derivs_3d(const curve *c, double t, int32_t order, double *out);
+
+/**
+ * The points of a plane curve at many parameters, in any order; quickest when they increase.
+ * @param[in] c  the curve
+ * @param[in] t  parameters
+ * @param[in] count  how many
+ * @param[out] xy  x, y of each; unwritten unless all parameters are in the range
+ * @return 0; 1 to 7, 40, 80 as said above; 8 negative count
+ */
+KX_API int32_t KX_CALL kx_curve_pntsat_2d(const curve *c, const double *t, int32_t count, double *xy);
+
+/**
+ * The points of a space curve at many parameters, as kx_curve_pntsat_2d.
+ * @param[in] c  the curve
+ * @param[in] t  parameters
+ * @param[in] count  how many
+ * @param[out] xyz  x, y, z of each; unwritten unless all parameters are in the range
+ * @return as kx_curve_pntsat_2d
+ */
+KX_API int32_t KX_CALL kx_curve_pntsat_3d(const curve *c, const double *t, int32_t count, double *xyz);
+
+/* ---- curve sampling ---- */
+
+/**
+ * The points of a plane curve at equally spaced parameters, both given ones included.
+ * @param[in] c  the curve
+ * @param[in] from,to  first and last parameter, in either order
+ * @param[in] count  number of points, 2 to 1 000 000
+ * @param[out] xy  x, y of each
+ * @return 0; 1 to 7, 40, 80 as said above; 8 count out of range
+ */
+KX_API int32_t KX_CALL kx_curve_pnts_2d(const curve *c, double from, double to, int32_t count, double *xy);
+
+/**
+ * The points of a space curve at equally spaced parameters, as kx_curve_pnts_2d.
+ * @param[in] c  the curve
+ * @param[in] from,to  first and last parameter, in either order
+ * @param[in] count  number of points, 2 to 1 000 000
+ * @param[out] xyz  x, y, z of each
+ * @return as kx_curve_pnts_2d
+ */
+KX_API int32_t KX_CALL kx_curve_pnts_3d(const curve *c, double from, double to, int32_t count, double *xyz);
+
+/**
+ * The points of a plane curve at equal steps in each of its pieces (segments, groups, knot spans). A joint is sampled
+ * once, or twice where the curve jumps there by more than 1e-7.
+ * @param[in] c  the curve
+ * @param[in] steps  steps of each piece, 1 or more
+ * @param[in] capacity  points for which there is room; 0 to ask for the number
+ * @param[out] xy  x, y of each, as far as there is room; may be null when capacity is 0
+ * @param[out] count  number of points that the curve has
+ * @return 0; 1 to 6, 40, 80 as said above; 8 steps or capacity out of range; 9 the points might be more than 1 000 000;
+ *   10 capacity is less than count, which is written
+ */
+KX_API int32_t KX_CALL kx_curve_steps_2d(const curve *c, int32_t steps, int32_t capacity, double *xy, int32_t *count);
+
+/**
+ * The points of a space curve at equal steps in each of its pieces, as kx_curve_steps_2d.
+ * @param[in] c  the curve
+ * @param[in] steps  steps of each piece, 1 or more
+ * @param[in] capacity  points for which there is room; 0 to ask for the number
+ * @param[out] xyz  x, y, z of each, as far as there is room; may be null when capacity is 0
+ * @param[out] count  number of points that the curve has
+ * @return as kx_curve_steps_2d
+ */
+KX_API int32_t KX_CALL kx_curve_steps_3d(const curve *c, int32_t steps, int32_t capacity, double *xyz, int32_t *count);
+
+/**
+ * The points of a polygon that stays within a tolerance of a plane curve: no point of the curve is farther than that
+ * from the chord that stands for it. Points are close where the curve is bent and rare where it is not; the joints of
+ * its pieces are always among them, twice where the curve jumps by more than 1e-7.
+ * @param[in] c  the curve
+ * @param[in] tol  largest distance between curve and chord, above 0
+ * @param[in] capacity  points for which there is room; 0 to ask for the number
+ * @param[out] xy  x, y of each, as far as there is room; may be null when capacity is 0
+ * @param[out] count  number of points of the polygon
+ * @return 0; 1 to 6, 40, 80 as said above; 8 a tolerance not above 0 or not finite, or a negative capacity; 9 more than
+ *   1 000 000 points; 10 capacity is less than count, which is written
+ */
+KX_API int32_t KX_CALL kx_curve_chords_2d(const curve *c, double tol, int32_t capacity, double *xy, int32_t *count);
+
+/**
+ * The points of a polygon that stays within a tolerance of a space curve, as kx_curve_chords_2d.
+ * @param[in] c  the curve
+ * @param[in] tol  largest distance between curve and chord, above 0
+ * @param[in] capacity  points for which there is room; 0 to ask for the number
+ * @param[out] xyz  x, y, z of each, as far as there is room; may be null when capacity is 0
+ * @param[out] count  number of points of the polygon
+ * @return as kx_curve_chords_2d
+ */
+KX_API int32_t KX_CALL kx_curve_chords_3d(const curve *c, double tol, int32_t capacity, double *xyz, int32_t *count);
+
+/**
+ * Appends the polygon of kx_curve_chords_2d to a list, all of it or nothing.
+ * @param[in] c  the curve
+ * @param[in] tol  largest distance between curve and chord, above 0
+ * @param[in,out] pnts  list of poly_2d, or empty; its numbers are continued, and its cursor ends at the last point
+ * @return 0; 1 to 6, 8, 9, 40 as kx_curve_chords_2d, 40 also for a list of another kind; 80 no memory, with the message
+ *   of a point or item
+ */
+KX_API int32_t KX_CALL kx_curve_chordpnts_2d(const curve *c, double tol, list_hdr *pnts);
+
+/**
+ * Appends the polygon of kx_curve_chords_3d to a list, all of it or nothing.
+ * @param[in] c  the curve
+ * @param[in] tol  largest distance between curve and chord, above 0
+ * @param[in,out] pnts  list of poly_3d, or empty; its numbers are continued, and its cursor ends at the last point
+ * @return as kx_curve_chordpnts_2d
+ */
+KX_API int32_t KX_CALL kx_curve_chordpnts_3d(const curve *c, double tol, list_hdr *pnts);
+
+/* ---- curve length ---- */
+
+/**
+ * The length of a curve, plane or space, between two parameters. Jumps have no length.
+ * @param[in] c  the curve
+ * @param[in] from,to  parameters, in either order
+ * @param[in] allowed  error that is allowed, 0 or more; rounding (1e-14 of the length) is never undercut
+ * @param[out] length  the length, not negative
+ * @param[out] error  estimate of its error: the difference of two quadrature rules, of which the better one is given,
+ *   summed over all intervals; may be null
+ * @return 0, error at most the larger of allowed and 1e-13 of the length; 1 to 7, 40, 80 as said above; 8 allowed
+ *   negative or no number; 9 the error could not be brought down so far, length and error are written
+ */
+KX_API int32_t KX_CALL kx_curve_length(const curve *c, double from, double to, double allowed, double *length,
+                                       double *error);
+
+/**
+ * The parameter and the point of a plane curve at a length from a parameter.
+ * @param[in] c  the curve
+ * @param[in] from  parameter from which the length counts
+ * @param[in] length  how far to go; against the parameter when negative
+ * @param[in] allowed  error of the length that is allowed, 0 or more, as in kx_curve_length
+ * @param[out] t  the parameter; one that passes an end by no more than that error is the end
+ * @param[out] pnt  the point; may be null
+ * @return 0; 1 to 7, 40, 80 as said above; 8 the curve is not that long, or allowed negative or no number; 9 the error
+ *   could not be brought down so far, t and pnt are written
+ */
+KX_API int32_t KX_CALL kx_curve_atlength_2d(const curve *c, double from, double length, double allowed, double *t,
+                                            pnt_2d *pnt);
+
+/**
+ * The parameter and the point of a space curve at a length from a parameter, as kx_curve_atlength_2d.
+ * @param[in] c  the curve
+ * @param[in] from  parameter from which the length counts
+ * @param[in] length  how far to go; against the parameter when negative
+ * @param[in] allowed  error of the length that is allowed, 0 or more, as in kx_curve_length
+ * @param[out] t  the parameter; one that passes an end by no more than that error is the end
+ * @param[out] pnt  the point; may be null
+ * @return as kx_curve_atlength_2d
+ */
+KX_API int32_t KX_CALL kx_curve_atlength_3d(const curve *c, double from, double length, double allowed, double *t,
+                                            pnt_3d *pnt);
+
+/* ---- curve measures ---- */
+
+/**
+ * The point of a plane curve that is nearest to a given one; of equally near ones any. It is an end of a piece, or the
+ * line to it stands at right angles to the curve.
+ * @param[in] c  the curve
+ * @param[in] pnt  the given point, within 1e60
+ * @param[out] t  parameter of the nearest point; any of the outputs may be null
+ * @param[out] nearest  the nearest point
+ * @param[out] distance  its distance
+ * @return 0; 1 to 6, 40, 80 as said above; 8 the given point is not finite or too far
+ */
+KX_API int32_t KX_CALL kx_curve_closest_2d(const curve *c, const pnt_2d *pnt, double *t, pnt_2d *nearest,
+                                           double *distance);
+
+/**
+ * The point of a space curve that is nearest to a given one, as kx_curve_closest_2d.
+ * @param[in] c  the curve
+ * @param[in] pnt  the given point, within 1e60
+ * @param[out] t  parameter of the nearest point; any of the outputs may be null
+ * @param[out] nearest  the nearest point
+ * @param[out] distance  its distance
+ * @return as kx_curve_closest_2d
+ */
+KX_API int32_t KX_CALL kx_curve_closest_3d(const curve *c, const pnt_3d *pnt, double *t, pnt_3d *nearest,
+                                           double *distance);
+
+/**
+ * The curvature of a plane curve, positive where it turns counter-clockwise: the inverse of the radius.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[out] curvature  the curvature
+ * @param[out] centre  centre of the circle of curvature, the point of the curve itself where the curvature is 0; may be
+ *   null
+ * @return 0; 1 to 7, 40, 80 as said above; 8 the first derivative vanishes: a cusp or an end with coincident points
+ */
+KX_API int32_t KX_CALL kx_curve_curvature_2d(const curve *c, double t, double *curvature, pnt_2d *centre);
+
+/**
+ * The curvature of a space curve, which is never negative.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[out] curvature  the curvature
+ * @param[out] centre  as kx_curve_curvature_2d
+ * @return as kx_curve_curvature_2d
+ */
+KX_API int32_t KX_CALL kx_curve_curvature_3d(const curve *c, double t, double *curvature, pnt_3d *centre);
+
+/**
+ * The smallest box around a plane curve: the curve, not its control points, touches every side.
+ * @param[in] c  the curve
+ * @param[out] low,high  the smallest and the largest coordinates
+ * @return 0; 1 to 6, 40, 80 as said above
+ */
+KX_API int32_t KX_CALL kx_curve_box_2d(const curve *c, pnt_2d *low, pnt_2d *high);
+
+/**
+ * The smallest box around a space curve, as kx_curve_box_2d.
+ * @param[in] c  the curve
+ * @param[out] low,high  the smallest and the largest coordinates
+ * @return as kx_curve_box_2d
+ */
+KX_API int32_t KX_CALL kx_curve_box_3d(const curve *c, pnt_3d *low, pnt_3d *high);
 
 #ifdef __cplusplus
 }
