@@ -26,8 +26,8 @@ struct nearest_place {
   double u = 0.0;
 };
 
-// The search for the point nearest to the origin: pieces are moved so that the given point is there, which keeps the
-// digits where they matter.
+// The search for the point nearest to a given one. Places are told from the given point and directions from the
+// piece's own start: so neither loses digits to how far away the other is.
 template <class D>
 class nearest_search {
  public:
@@ -55,14 +55,21 @@ class nearest_search {
 
   vector at_best() {
     load(best_.piece);
-    return kx::projected(kx::point_of_piece(piece_, n_, best_.u));
+    return place(best_.u);
   }
 
  private:
   void load(std::int32_t i) {
-    pieces_.piece(i, piece_);
-    for (int j = 0; j <= n_; ++j) piece_[j].point = piece_[j].point - piece_[j].weight * target_;
+    pieces_.piece(i, shape_);
+    const vector start = kx::projected(shape_[0]);
+    for (int j = 0; j <= n_; ++j) {
+      const point p = shape_[j];
+      piece_[j] = {p.point - p.weight * target_, p.weight};
+      shape_[j] = {p.point - p.weight * start, p.weight};
+    }
   }
+
+  vector place(double u) const { return kx::projected(kx::point_of_piece(piece_, n_, u)); }
 
   void consider(vector at, std::int32_t i, double u) {
     const double squared = kx::dot(at, at);
@@ -99,39 +106,40 @@ class nearest_search {
     product.degree = rational ? 3 * n - 1 : 2 * n - 1;
     double largest = 0.0;
     for (int k = 0; k < kx::dimension_of<D>; ++k) {
-      const auto x = [&](int j) { return component(piece_[j].point, k); };
-      const kx::bernstein a(n, x), da = kx::derivative_of(n, x);
+      const auto x = [&](int j) { return component(shape_[j].point, k); };
+      const kx::bernstein a(n, [&](int j) { return component(piece_[j].point, k); }), dx = kx::derivative_of(n, x);
+      double size = kx::largest_coefficient(a) * kx::largest_coefficient(dx);
       if (rational) {
         kx::bernstein h;
         h.degree = 2 * n - 1;
-        h.add_product(da, w, 1.0);
-        h.add_product(a, dw, -1.0);
+        h.add_product(dx, w, 1.0);
+        h.add_product({n, x}, dw, -1.0);
         product.add_product(a, h, 1.0);
-        largest =
-            std::max(largest, kx::largest_coefficient(a) * (kx::largest_coefficient(da) * kx::largest_coefficient(w)));
+        size *= kx::largest_coefficient(w);
       } else {
-        product.add_product(a, da, 1.0);
-        largest = std::max(largest, kx::largest_coefficient(a) * kx::largest_coefficient(da));
+        product.add_product(a, dx, 1.0);
       }
+      largest = std::max(largest, size);
     }
     double coefficients[kx::max_product_degree + 1];
     product.plain(coefficients);
     kx::root_finder finder(product.degree, noise * largest);
-    finder.find(coefficients, [&](double u) { consider(kx::projected(kx::point_of_piece(piece_, n, u)), i, u); });
+    finder.find(coefficients, [&](double u) { consider(place(u), i, u); });
   }
 
   // Newton's steps on the product itself. Far away the distance alone cannot tell between places near the foot.
   void polish() {
     load(best_.piece);
-    auto here = kx::jet_of_piece(piece_, n_, best_.u);
     for (int step = 0; step < 4; ++step) {
-      const double product = kx::dot(here.at, here.first);
-      const double slope = kx::dot(here.first, here.first) + kx::dot(here.at, here.second);
+      const auto shape = kx::jet_of_piece(shape_, n_, best_.u);
+      const vector here = place(best_.u);
+      const double product = kx::dot(here, shape.first);
+      const double slope = kx::dot(shape.first, shape.first) + kx::dot(here, shape.second);
       if (!(slope > 0.0)) return;
       const double u = std::clamp(best_.u - product / slope, 0.0, 1.0);
-      here = kx::jet_of_piece(piece_, n_, u);
-      const double squared = kx::dot(here.at, here.at);
-      const bool squarer = std::fabs(kx::dot(here.at, here.first)) < std::fabs(product);
+      const vector next = place(u);
+      const double squared = kx::dot(next, next);
+      const bool squarer = std::fabs(kx::dot(next, kx::jet_of_piece(shape_, n_, u).first)) < std::fabs(product);
       if (!squarer || squared > best_.squared * (1.0 + noise)) return;
       best_ = {squared, best_.piece, u};
     }
@@ -140,7 +148,7 @@ class nearest_search {
   const kx::bezier_pieces<D> &pieces_;
   vector target_;
   int n_;
-  point piece_[kx::max_piece_points];
+  point piece_[kx::max_piece_points], shape_[kx::max_piece_points];
   nearest_place best_;
 };
 
