@@ -1,6 +1,7 @@
 // A NURBS curve of degree 3 and 1000 control points, clamped, with uneven knots and weights, sampled at ten steps a
 // span with both ends of each span. Only the point is computed, here and by the peers.
 #include <algorithm>
+#include <memory>
 
 #include "curve_rows.hpp"
 #include "kxgeom/curves.h"
@@ -88,5 +89,11 @@ void bench::add_rows() {
         kx_rat_deboor_2d(s.parameters[i], degree, control, &s.weights[at - degree], &s.knots[at - degree + 1], &out[i]);
       }
     }
+  });
+
+  // Any parameters into an array, the record read anew in each pass.
+  const std::shared_ptr<curve> c(define(s), kx_purge_curve);
+  add_array_row(family + "kx:kx_curve_pntsat_2d", want, [c, t = s.parameters](samples &out) {
+    kx_curve_pntsat_2d(c.get(), t.data(), static_cast<std::int32_t>(out.size()), &out[0].x);
   });
 }

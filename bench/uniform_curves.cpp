@@ -1,5 +1,8 @@
 // A uniform cubic B-spline of 1000 control points, sampled at ten steps a segment with its unit tangent and unit second
-// derivative. The peers' rows of order 2 compute both derivatives as we must; those of order 0 the point alone.
+// derivative, or the point alone into an array. The peers' rows of order 2 compute both derivatives as we must; those
+// of order 0 the point alone.
+#include <memory>
+
 #include "curve_rows.hpp"
 #include "kxgeom/curves.h"
 #include "kxgeom/list.h"
@@ -47,4 +50,16 @@ void bench::add_rows() {
   add_peers(family, s, want, 2);
   add_maker(family, want,
             {"make", [points = s.points] { return define(points); }, [](curve *c) { return kx_mk_ucurve2d(c, step); }});
+
+  // Points alone into an array, the record read anew in each pass.
+  const std::shared_ptr<curve> c(define(s.points), kx_purge_curve);
+  std::vector<double> parameters = s.parameters;
+  for (double &t : parameters) t -= 3.0;
+  add_array_row(family + "kx:kx_curve_pntsat_2d", want, [=](samples &out) {
+    kx_curve_pntsat_2d(c.get(), parameters.data(), static_cast<std::int32_t>(out.size()), &out[0].x);
+  });
+  add_array_row(family + "kx:kx_curve_steps_2d", want, [=](samples &out) {
+    std::int32_t count;
+    kx_curve_steps_2d(c.get(), 10, static_cast<std::int32_t>(out.size()), &out[0].x, &count);
+  });
 }

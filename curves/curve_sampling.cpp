@@ -107,7 +107,8 @@ std::int32_t walk(const kx::bezier_pieces<D> &pieces, Points &points, Rest rest)
   for (std::int32_t i = 0; i < pieces.count(); ++i) {
     pieces.piece(i, piece);
     const auto first = kx::projected(piece[0]);
-    if (i == 0 || !kx::near_zero(kx::length(first - before))) {
+    const auto jump = first - before;
+    if (i == 0 || !(kx::dot(jump, jump) <= kx::tolerance * kx::tolerance)) {
       if (const std::int32_t fault = points.add(first)) return fault;
     }
     before = kx::projected(piece[pieces.degree()]);
@@ -120,7 +121,7 @@ std::int32_t walk(const kx::bezier_pieces<D> &pieces, Points &points, Rest rest)
 template <int Components, class D>
 std::int32_t add_steps(const kx::bezier_pieces<D> &pieces, std::int32_t steps, array_of_points<D> &points) {
   constexpr int dimension = kx::dimension_of<D>, most = 64;
-  double u[most], some[most * dimension];
+  double u[most] = {}, some[most * dimension];
   kx::piece_polynomial<Components> polynomial;
   const auto fill = [&](std::int32_t from, int n) {
     for (int j = 0; j < n; ++j) u[j] = static_cast<double>(from + j) / steps;

@@ -169,16 +169,21 @@ inline void points_at(const piece_polynomial<Components> &p, const double *u, do
   }
 }
 
+template <int Dimension, int Components, int Degree>
+inline void points_of_piece_of(const piece_polynomial<Components> &p, const double *u, int count, double *out) {
+  int i = 0;
+  for (; i + lanes <= count; i += lanes) points_at<Dimension, Components, Degree>(p, u + i, out + Dimension * i);
+  if (i == count) return;
+  double rest[Dimension * lanes];
+  points_at<Dimension, Components, Degree>(p, u + i, rest);
+  for (int j = 0; j < Dimension * (count - i); ++j) out[Dimension * i + j] = rest[j];
+}
+
 // The points of a piece at `count` local parameters. u may be read up to the next multiple of `lanes`.
 template <int Dimension, int Components>
 inline void points_of_piece(const piece_polynomial<Components> &p, const double *u, int count, double *out) {
-  const auto some = p.degree == 3 ? points_at<Dimension, Components, 3> : points_at<Dimension, Components, 0>;
-  int i = 0;
-  for (; i + lanes <= count; i += lanes) some(p, u + i, out + Dimension * i);
-  if (i == count) return;
-  double rest[Dimension * lanes];
-  some(p, u + i, rest);
-  for (int j = 0; j < Dimension * (count - i); ++j) out[Dimension * i + j] = rest[j];
+  p.degree == 3 ? points_of_piece_of<Dimension, Components, 3>(p, u, count, out)
+                : points_of_piece_of<Dimension, Components, 0>(p, u, count, out);
 }
 
 // The points at the parameters t(0) .. t(count-1), which are in the curve's range or beyond it by its allowance. Those

@@ -16,9 +16,49 @@ void hash_curve(const curve *c) {
   for (const list_hdr *list : {c->weights, c->knots, c->ctrl_pnts, c->curve_pnts, c->curve_stats}) hash_list(list);
 }
 
+// Everything that is asked of a curve of any kind; each pair is called for both dimensions, of which one answers.
+void measure(const curve *c) {
+  double from = 0, to = 1, t[5], flat[24] = {}, length = 0, error = 0;
+  hash(kx_curve_range(c, &from, &to));
+  hash(from), hash(to);
+  for (double &each : t) each = from + (to - from) * below(9) * 0.125;
+  pnt_2d plane[5] = {};
+  pnt_3d space[5] = {};
+  hash(kx_curve_pnt_2d(c, t[0], plane)), hash(kx_curve_pnt_3d(c, t[0], space));
+  hash(kx_curve_derivs_2d(c, t[1], 3, flat)), hash(kx_curve_derivs_3d(c, t[1], 3, flat));
+  hash(kx_curve_pntsat_2d(c, t, 5, flat + 12)), hash(kx_curve_pntsat_3d(c, t, 4, flat + 12));
+  for (const double value : flat) hash(value);
+  hash(kx_curve_pnts_2d(c, t[0], t[1], 12, flat)), hash(kx_curve_pnts_3d(c, t[1], t[0], 8, flat));
+  for (const double value : flat) hash(value);
+  std::int32_t count = 0;
+  hash(kx_curve_steps_2d(c, 1 + below(6), 12, flat, &count)), hash(kx_curve_steps_3d(c, 1 + below(6), 8, flat, &count));
+  hash(count);
+  const double tol = 0.25 * (1 + below(8));
+  hash(kx_curve_chords_2d(c, tol, 12, flat, &count)), hash(kx_curve_chords_3d(c, tol, 8, flat, &count));
+  hash(count);
+  for (const double value : flat) hash(value);
+  list_hdr *chords[2] = {ll_create_list(), ll_create_list()};
+  hash(kx_curve_chordpnts_2d(c, tol, chords[0])), hash(kx_curve_chordpnts_3d(c, tol, chords[1]));
+  for (list_hdr *list : chords) hash(list);
+  hash(kx_curve_length(c, t[2], t[3], 1e-6, &length, &error));
+  hash(length), hash(error);
+  hash(kx_curve_atlength_2d(c, t[0], 0.5, 1e-6, t, plane)), hash(kx_curve_atlength_3d(c, t[0], -0.5, 1e-6, t, space));
+  hash(t[0]);
+  const pnt_2d near_plane = {number(), number()};
+  const pnt_3d near_space = {number(), number(), number()};
+  hash(kx_curve_closest_2d(c, &near_plane, t + 1, plane + 1, flat));
+  hash(kx_curve_closest_3d(c, &near_space, t + 1, space + 1, flat));
+  hash(kx_curve_curvature_2d(c, t[4], flat + 1, plane + 2)), hash(kx_curve_curvature_3d(c, t[4], flat + 1, space + 2));
+  hash(kx_curve_box_2d(c, plane + 3, plane + 4)), hash(kx_curve_box_3d(c, space + 3, space + 4));
+  hash(t[1]), hash(flat[0]), hash(flat[1]);
+  for (const pnt_2d &p : plane) hash(p);
+  for (const pnt_3d &p : space) hash(p);
+}
+
 // Hashes a curve and its copy and frees both; control points that are no polygon's need a second try.
 void done(curve *c) {
   hash_curve(c);
+  measure(c);
   curve *copy = kx_copy_curve(c);
   hash_curve(copy);
   if (copy) hash(kx_clear_curve(copy, below(2)));
