@@ -7,7 +7,7 @@
 
 namespace kx {
 
-inline constexpr int max_product_degree = 3 * max_bezier_degree;
+inline constexpr int max_product_degree = 4 * max_bezier_degree;
 
 // A polynomial by its coefficients times the binomials: so the coefficients of a product are a plain convolution.
 struct bernstein {
@@ -86,11 +86,10 @@ class root_finder {
     return sum;
   }
 
-  // The only root of g between 0 and 1: the rule of false position, halving where that drags.
-  double single(const double *g, int first, int last) const {
+  // The only root of g between 0 and 1, whose ends are of different signs: the rule of false position, halving where
+  // that drags.
+  double single(const double *g) const {
     double low = 0.0, high = 1.0, at_low = g[0], at_high = g[degree_];
-    if (at_low * first <= 0.0) at_low = first * noise_;
-    if (at_high * last <= 0.0) at_high = last * noise_;
     double u = 0.5;
     for (int step = 0; step < 100 && high - low > 1e-16; ++step) {
       const double width = high - low, slope = at_high - at_low;
@@ -98,7 +97,7 @@ class root_finder {
       if (step % 3 == 2 || !(u > low && u < high)) u = 0.5 * (low + high);
       const double at = value(g, u);
       if (at == 0.0 || u == low || u == high) break;
-      if ((at > 0.0) == (first > 0)) {
+      if ((at > 0.0) == (g[0] > 0.0)) {
         low = u;
         at_low = at;
         if (high - low > 0.5 * width) at_high *= 0.5;
@@ -113,18 +112,17 @@ class root_finder {
 
   template <class Visit>
   void halve(const double *g, double from, double to, int depth, Visit &visit) {
-    int changes = 0, first = 0, last = 0;
+    int changes = 0, last = 0;
     for (int j = 0; j <= degree_; ++j) {
       const int s = sign(g[j]);
       if (s == 0) continue;
-      if (first == 0) first = s;
       changes += last != 0 && s != last;
       last = s;
     }
     if (changes == 0) return;
     // As many roots as the signs change, or fewer by an even number.
-    if (changes == 1) {
-      visit(from + (to - from) * single(g, first, last));
+    if (changes == 1 && sign(g[0]) != 0 && sign(g[degree_]) != 0) {
+      visit(from + (to - from) * single(g));
       return;
     }
     const double middle = 0.5 * (from + to);
@@ -134,7 +132,8 @@ class root_finder {
     }
     intervals_ -= 2;
     double low[max_product_degree + 1], high[max_product_degree + 1];
-    for (int j = 0; j <= degree_; ++j) high[j] = g[j];
+    high[0] = g[0];
+    for (int j = 1; j <= degree_; ++j) high[j] = g[j];
     low[0] = high[0];
     for (int r = 1; r <= degree_; ++r) {
       for (int j = 0; j <= degree_ - r; ++j) high[j] = 0.5 * (high[j] + high[j + 1]);

@@ -14,9 +14,6 @@ using kx::space;
 // What products of coefficients may be off by rounding, as a part of the largest ones.
 constexpr double noise = 8.0 * std::numeric_limits<double>::epsilon();
 
-double component(kx::vec2 v, int i) { return i == 0 ? v.x : v.y; }
-double component(kx::vec3 v, int i) { return i == 0 ? v.x : (i == 1 ? v.y : v.z); }
-
 // ---- nearest point ----
 
 // The nearest place so far.
@@ -81,9 +78,9 @@ class nearest_search {
     const vector start = kx::projected(piece_[0]);
     double squared = 0.0;
     for (int k = 0; k < kx::dimension_of<D>; ++k) {
-      double least = component(start, k), most = least;
+      double least = kx::component(start, k), most = least;
       for (int j = 1; j <= n_; ++j) {
-        const double x = component(piece_[j].point, k) / piece_[j].weight;
+        const double x = kx::component(piece_[j].point, k) / piece_[j].weight;
         least = std::min(least, x);
         most = std::max(most, x);
       }
@@ -106,8 +103,8 @@ class nearest_search {
     product.degree = rational ? 3 * n - 1 : 2 * n - 1;
     double largest = 0.0;
     for (int k = 0; k < kx::dimension_of<D>; ++k) {
-      const auto x = [&](int j) { return component(shape_[j].point, k); };
-      const kx::bernstein a(n, [&](int j) { return component(piece_[j].point, k); }), dx = kx::derivative_of(n, x);
+      const auto x = [&](int j) { return kx::component(shape_[j].point, k); };
+      const kx::bernstein a(n, [&](int j) { return kx::component(piece_[j].point, k); }), dx = kx::derivative_of(n, x);
       double size = kx::largest_coefficient(a) * kx::largest_coefficient(dx);
       if (rational) {
         kx::bernstein h;
@@ -158,7 +155,7 @@ std::int32_t closest(const curve *c, const typename D::point *given, double *t, 
   if (given == nullptr) return kx::no_argument;
   const auto target = D::read(*given);
   for (int k = 0; k < kx::dimension_of<D>; ++k) {
-    if (!(std::fabs(component(target, k)) <= 1e60)) return kx::bad_value;
+    if (!(std::fabs(kx::component(target, k)) <= 1e60)) return kx::bad_value;
   }
   kx::bezier_pieces<D> pieces;
   if (const std::int32_t fault = pieces.open(c)) return fault;
@@ -234,7 +231,7 @@ struct extent {
 // points reach beyond what is known.
 template <class V>
 void widen(extent &e, const kx::weighted<V> *piece, int n, bool rational, int k) {
-  const auto x = [&](int j) { return component(piece[j].point, k); };
+  const auto x = [&](int j) { return kx::component(piece[j].point, k); };
   const auto w = [&](int j) { return piece[j].weight; };
   e.widen(x(0) / w(0));
   e.widen(x(n) / w(n));
@@ -255,7 +252,8 @@ void widen(extent &e, const kx::weighted<V> *piece, int n, bool rational, int k)
   double coefficients[kx::max_product_degree + 1];
   slope.plain(coefficients);
   kx::root_finder finder(slope.degree, noise * largest);
-  finder.find(coefficients, [&](double u) { e.widen(component(kx::projected(kx::point_of_piece(piece, n, u)), k)); });
+  finder.find(coefficients,
+              [&](double u) { e.widen(kx::component(kx::projected(kx::point_of_piece(piece, n, u)), k)); });
 }
 
 template <class D>

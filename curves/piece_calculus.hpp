@@ -44,6 +44,9 @@ inline double *write(vec3 v, double *out) {
   return out + 3;
 }
 
+inline double component(vec2 v, int i) { return i == 0 ? v.x : v.y; }
+inline double component(vec3 v, int i) { return i == 0 ? v.x : (i == 1 ? v.y : v.z); }
+
 inline vec2 read(const double *from, vec2) { return {from[0], from[1]}; }
 inline vec3 read(const double *from, vec3) { return {from[0], from[1], from[2]}; }
 

@@ -857,11 +857,12 @@ KX_API int32_t KX_CALL kx_curve_chordpnts_3d(const curve *c, double tol, list_hd
  * The length of a curve, plane or space, between two parameters. Jumps have no length.
  * @param[in] c  the curve
  * @param[in] from,to  parameters, in either order
- * @param[in] allowed  error that is allowed, 0 or more; rounding (1e-14 of the length) is never undercut
+ * @param[in] allowed  error that is allowed, 0 or more; rounding (1e-14 of the length, and of the coordinates of
+ *   each piece a tenth of that) is never undercut
  * @param[out] length  the length, not negative
  * @param[out] error  estimate of its error: the difference of two quadrature rules, of which the better one is given,
  *   summed over all intervals; may be null
- * @return 0, error at most the larger of allowed and 1e-13 of the length; 1 to 7, 40, 80 as said above; 8 allowed
+ * @return 0, error at most the larger of allowed and ten times that rounding; 1 to 7, 40, 80 as said above; 8 allowed
  *   negative or no number; 9 the error could not be brought down so far, length and error are written
  */
 KX_API int32_t KX_CALL kx_curve_length(const curve *c, double from, double to, double allowed, double *length,
