@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 
 #include "bezier_pieces.hpp"
 
@@ -10,70 +11,99 @@ namespace kx {
 inline constexpr int max_product_degree = 4 * max_bezier_degree;
 
 // A polynomial by its coefficients times the binomials: so the coefficients of a product are a plain convolution.
+// Beside each stands the size of what it was made of, which tells how much of it may be rounding.
 struct bernstein {
   int degree = 0;
-  double c[max_product_degree + 1] = {};
+  double c[max_product_degree + 1] = {}, size[max_product_degree + 1] = {};
 
   bernstein() = default;
-  // From the degree + 1 plain coefficients value(0) .. value(degree).
-  template <class Value>
-  bernstein(int n, Value value) : degree(n) {
+  // From the degree + 1 plain coefficients value(0) .. value(degree) and their sizes.
+  template <class Value, class Size>
+  bernstein(int n, Value value, Size size_of) : degree(n) {
     double binomial = 1.0;
     for (int j = 0; j <= n; ++j) {
       c[j] = binomial * value(j);
+      size[j] = binomial * size_of(j);
       binomial = binomial * (n - j) / (j + 1);
     }
   }
+  template <class Value>
+  bernstein(int n, Value value) : bernstein(n, value, [&](int j) { return std::fabs(value(j)); }) {}
 
   // Adds the product of two, whose degrees sum to this one's, times a factor.
   void add_product(const bernstein &a, const bernstein &b, double factor) {
     for (int i = 0; i <= a.degree; ++i) {
-      const double f = factor * a.c[i];
-      for (int j = 0; j <= b.degree; ++j) c[i + j] += f * b.c[j];
+      const double f = factor * a.c[i], s = std::fabs(factor) * a.size[i];
+      for (int j = 0; j <= b.degree; ++j) {
+        c[i + j] += f * b.c[j];
+        size[i + j] += s * b.size[j];
+      }
     }
   }
 
-  void plain(double *out) const {
-    double binomial = 1.0;
-    for (int j = 0; j <= degree; ++j) {
-      out[j] = c[j] / binomial;
-      binomial = binomial * (degree - j) / (j + 1);
-    }
+  bernstein derivative() const {
+    const plain_coefficients p(*this);
+    const auto value = [&](int j) { return degree * (p.value[j + 1] - p.value[j]); };
+    return {degree - 1, value, [&](int j) { return degree * (p.size[j + 1] + p.size[j]); }};
   }
+
+  // The coefficients without the binomials; those that are rounding alone are 0.
+  void plain(double *out) const {
+    const plain_coefficients p(*this);
+    for (int j = 0; j <= degree; ++j) out[j] = std::fabs(p.value[j]) > roundings * p.size[j] ? p.value[j] : 0.0;
+  }
+
+ private:
+  static constexpr double roundings = 8.0 * std::numeric_limits<double>::epsilon();
+
+  struct plain_coefficients {
+    double value[max_product_degree + 1], size[max_product_degree + 1];
+    explicit plain_coefficients(const bernstein &b) {
+      double binomial = 1.0;
+      for (int j = 0; j <= b.degree; ++j) {
+        value[j] = b.c[j] / binomial;
+        size[j] = b.size[j] / binomial;
+        binomial = binomial * (b.degree - j) / (j + 1);
+      }
+    }
+  };
 };
 
-// The derivative of a polynomial given by its n + 1 plain coefficients.
-template <class Value>
-inline bernstein derivative_of(int n, Value value) {
-  return {n - 1, [&](int j) { return n * (value(j + 1) - value(j)); }};
-}
-
-inline double largest_coefficient(const bernstein &b) {
-  double plain[max_product_degree + 1], largest = 0.0;
-  b.plain(plain);
-  for (int j = 0; j <= b.degree; ++j) largest = std::fmax(largest, std::fabs(plain[j]));
-  return largest;
+// The derivative of x / w times the square of w.
+inline bernstein quotient_slope(const bernstein &x, const bernstein &w) {
+  bernstein slope;
+  slope.degree = x.degree + w.degree - 1;
+  slope.add_product(x.derivative(), w, 1.0);
+  slope.add_product(x, w.derivative(), -1.0);
+  return slope;
 }
 
 // Finds where a polynomial of plain coefficients changes its sign. A root of even order may be found or not: nothing
-// changes there. Coefficients up to `noise` count as 0.
+// changes there.
 class root_finder {
  public:
-  root_finder(int degree, double noise) : degree_(degree), noise_(noise) {}
+  explicit root_finder(const bernstein &polynomial) : degree_(polynomial.degree) { polynomial.plain(plain_); }
 
   // Calls visit(u) for each root between 0 and 1, the ends excepted.
   template <class Visit>
-  void find(const double *coefficients, Visit visit) {
-    halve(coefficients, 0.0, 1.0, deepest, visit);
+  void find(Visit visit) {
+    halve(plain_, 0.0, 1.0, deepest, visit);
   }
 
  private:
   static constexpr int deepest = 48;
   int degree_;
-  double noise_;
+  double plain_[max_product_degree + 1];
   int intervals_ = 4000;  // more than roots that are any need; what is rounding alone ends with them
 
-  int sign(double x) const { return x > noise_ ? 1 : (x < -noise_ ? -1 : 0); }
+  static int sign(double x) { return x > 0.0 ? 1 : (x < 0.0 ? -1 : 0); }
+
+  // Whether both ends stand out from the rounding of the whole, so that a root between them can be told.
+  bool ends_are_clear(const double *g) const {
+    double largest = 0.0;
+    for (int j = 0; j <= degree_; ++j) largest = std::fmax(largest, std::fabs(g[j]));
+    return std::fmin(std::fabs(g[0]), std::fabs(g[degree_])) > 1e-14 * largest;
+  }
 
   double value(const double *g, double u) const {
     const double v = 1.0 - u;
@@ -121,7 +151,7 @@ class root_finder {
     }
     if (changes == 0) return;
     // As many roots as the signs change, or fewer by an even number.
-    if (changes == 1 && sign(g[0]) != 0 && sign(g[degree_]) != 0) {
+    if (changes == 1 && ends_are_clear(g)) {
       visit(from + (to - from) * single(g));
       return;
     }

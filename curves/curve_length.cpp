@@ -198,32 +198,16 @@ class piece_length {
   // which both rules miss when it lies between an end and the outermost node: so kinks are made ends.
   void find_slowest(const point *piece, int n) {
     const bool rational = Components > kx::dimension_of<D>;
-    const auto weight = [&](int j) { return piece[j].weight; };
-    const int degree = rational ? 2 * n - 1 : n - 1;
-    if (degree < 1) return;
+    const kx::bernstein w(n, [&](int j) { return piece[j].weight; });
     kx::bernstein product;
-    product.degree = 2 * degree - 1;
-    double largest = 0.0;
     for (int k = 0; k < kx::dimension_of<D>; ++k) {
-      const auto x = [&](int j) { return kx::component(piece[j].point, k); };
-      kx::bernstein first = kx::derivative_of(n, x);
-      if (rational) {
-        kx::bernstein h;
-        h.degree = degree;
-        h.add_product(first, {n, weight}, 1.0);
-        h.add_product({n, x}, kx::derivative_of(n, weight), -1.0);
-        first = h;
-      }
-      double plain[kx::max_product_degree + 1];
-      first.plain(plain);
-      const kx::bernstein second = kx::derivative_of(degree, [&](int j) { return plain[j]; });
-      product.add_product(first, second, 1.0);
-      largest = std::max(largest, kx::largest_coefficient(first) * kx::largest_coefficient(second));
+      const kx::bernstein x(n, [&](int j) { return kx::component(piece[j].point, k); });
+      const kx::bernstein first = rational ? kx::quotient_slope(x, w) : x.derivative();
+      if (first.degree == 0) return;
+      product.degree = 2 * first.degree - 1;
+      product.add_product(first, first.derivative(), 1.0);
     }
-    double coefficients[kx::max_product_degree + 1];
-    product.plain(coefficients);
-    kx::root_finder finder(product.degree, 8.0 * epsilon * largest);
-    finder.find(coefficients, [this](double u) {
+    kx::root_finder(product).find([this](double u) {
       if (slow_count_ < most_slow) slow_[slow_count_++] = u;
     });
     std::sort(slow_, slow_ + slow_count_);

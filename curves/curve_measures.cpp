@@ -11,7 +11,7 @@ namespace {
 using kx::plane;
 using kx::space;
 
-// What products of coefficients may be off by rounding, as a part of the largest ones.
+// What a square may be off by rounding.
 constexpr double noise = 8.0 * std::numeric_limits<double>::epsilon();
 
 // ---- nearest point ----
@@ -97,31 +97,18 @@ class nearest_search {
     if (out_of_question()) return;
     const bool rational = pieces_.rational();
     const int n = n_;
-    const kx::bernstein w(n, [&](int j) { return piece_[j].weight; }),
-        dw = kx::derivative_of(n, [&](int j) { return piece_[j].weight; });
+    const kx::bernstein w(n, [&](int j) { return piece_[j].weight; });
     kx::bernstein product;
     product.degree = rational ? 3 * n - 1 : 2 * n - 1;
-    double largest = 0.0;
     for (int k = 0; k < kx::dimension_of<D>; ++k) {
-      const auto x = [&](int j) { return kx::component(shape_[j].point, k); };
-      const kx::bernstein a(n, [&](int j) { return kx::component(piece_[j].point, k); }), dx = kx::derivative_of(n, x);
-      double size = kx::largest_coefficient(a) * kx::largest_coefficient(dx);
-      if (rational) {
-        kx::bernstein h;
-        h.degree = 2 * n - 1;
-        h.add_product(dx, w, 1.0);
-        h.add_product({n, x}, dw, -1.0);
-        product.add_product(a, h, 1.0);
-        size *= kx::largest_coefficient(w);
-      } else {
-        product.add_product(a, dx, 1.0);
-      }
-      largest = std::max(largest, size);
+      const double given = 2.0 * std::fabs(kx::component(target_, k));
+      const auto from_target = [&](int j) { return kx::component(piece_[j].point, k); };
+      const auto size = [&](int j) { return std::fabs(from_target(j)) + given * piece_[j].weight; };
+      const kx::bernstein a(n, from_target, size);
+      const kx::bernstein x(n, [&](int j) { return kx::component(shape_[j].point, k); });
+      product.add_product(a, rational ? kx::quotient_slope(x, w) : x.derivative(), 1.0);
     }
-    double coefficients[kx::max_product_degree + 1];
-    product.plain(coefficients);
-    kx::root_finder finder(product.degree, noise * largest);
-    finder.find(coefficients, [&](double u) { consider(place(u), i, u); });
+    kx::root_finder(product).find([&](double u) { consider(place(u), i, u); });
   }
 
   // Newton's steps on the product itself. Far away the distance alone cannot tell between places near the foot.
@@ -238,22 +225,10 @@ void widen(extent &e, const kx::weighted<V> *piece, int n, bool rational, int k)
   bool inside = true;
   for (int j = 1; j < n; ++j) inside = inside && e.holds(x(j) / w(j));
   if (inside) return;
-  const kx::bernstein dx = kx::derivative_of(n, x);
-  kx::bernstein slope = dx;
-  double largest = kx::largest_coefficient(dx);
-  if (rational) {
-    const kx::bernstein ws(n, w), xs(n, x);
-    slope = {};
-    slope.degree = 2 * n - 1;
-    slope.add_product(dx, ws, 1.0);
-    slope.add_product(xs, kx::derivative_of(n, w), -1.0);
-    largest = largest * kx::largest_coefficient(ws);
-  }
-  double coefficients[kx::max_product_degree + 1];
-  slope.plain(coefficients);
-  kx::root_finder finder(slope.degree, noise * largest);
-  finder.find(coefficients,
-              [&](double u) { e.widen(kx::component(kx::projected(kx::point_of_piece(piece, n, u)), k)); });
+  const kx::bernstein values(n, x);
+  const kx::bernstein slope = rational ? kx::quotient_slope(values, {n, w}) : values.derivative();
+  kx::root_finder(slope).find(
+      [&](double u) { e.widen(kx::component(kx::projected(kx::point_of_piece(piece, n, u)), k)); });
 }
 
 template <class D>
