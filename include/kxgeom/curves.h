@@ -959,6 +959,76 @@ KX_API int32_t KX_CALL kx_curve_box_2d(const curve *c, pnt_2d *low, pnt_2d *high
  */
 KX_API int32_t KX_CALL kx_curve_box_3d(const curve *c, pnt_3d *low, pnt_3d *high);
 
+/* ---- points on curves ---- */
+
+/**
+ * The point of a polynomial, coefficient by coefficient: by Horner's scheme from the highest power down.
+ * @param[in] coef[degree+1]  coefficients of t^degree, ..., t, 1; those of the plane with z 0
+ * @param[in] degree  0 to 30
+ * @param[in] t  parameter, any number
+ * @param[out] pnt  the point; it may be one of the coefficients
+ * @return 0; 8 degree out of range; 40 a null argument
+ */
+KX_API int32_t KX_CALL kx_polynomial_pnt(const pnt_3d *coef, int32_t degree, double t, pnt_3d *pnt);
+
+/**
+ * The point of any curve, plane or space, at a parameter.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[out] pnt  the point; z is 0 for a plane curve
+ * @return 0; 1 to 7, 40, 80 as said above
+ */
+KX_API int32_t KX_CALL kx_eval_pointoncurve(const curve *c, double t, pnt_3d *pnt);
+
+/**
+ * The point of any curve, plane or space, and its derivatives by the parameter. Orders above the degree are 0 for a
+ * curve without weights.
+ * @param[in] c  the curve
+ * @param[in] t  parameter
+ * @param[in] order  highest derivative wanted, 0 to 30
+ * @param[out] out[order+1]  the point, then a derivative each; z is 0 for a plane curve
+ * @return 0; 1 to 7, 40, 80 as said above; 8 order out of range
+ */
+KX_API int32_t KX_CALL kx_eval_derivsoncurve(const curve *c, double t, int32_t order, pnt_3d *out);
+
+/**
+ * The point of a segment of a uniform curve, plane or space, and its first three derivatives: their true lengths, not
+ * made unit length like those of kx_eval_t_on_ucurve2d.
+ * @param[in] c  a curve of one of the uniform kinds
+ * @param[in] segment  from 0; of a uniform Bezier curve the group of four points
+ * @param[in] t  parameter in the segment, 0 to 1
+ * @param[out] pnt  the point; any of the outputs may be null
+ * @param[out] first,second,third  the derivatives, with direction and length
+ * @return 0; 1 to 6, 80 as said above, 3 also for a curve of another kind; 7 segment or t out of range
+ */
+KX_API int32_t KX_CALL kx_eval_derivs_ucurve(const curve *c, int32_t segment, double t, pnt_3d *pnt, vector_3d *first,
+                                             vector_3d *second, vector_3d *third);
+
+/* ---- interpolation ---- */
+
+/**
+ * Makes the uniform cubic B-spline through given points: at parameter i it is at point i. It is twice continuously
+ * differentiable and has no curvature at its ends.
+ * @param[in] points  list of two or more points of one of the four kinds; the current item's kind is the list's
+ * @return the curve, the caller's, of type 83 or 84 with two control points more than there are points; null for a list
+ *   of another kind, fewer than two points or one that is not finite, and after a memory message
+ */
+KX_API curve *KX_CALL kx_curve_thru_points(const list_hdr *points);
+
+/**
+ * Makes the non-uniform B-spline of a degree through the first points of a list. Its parameter at a point is the length
+ * of the chords up to there, which keeps it from swinging where the distances of the points differ much; it begins at
+ * the first and ends at the last of them.
+ * @param[in] points  list of points of one of the four kinds, neighbours more than 1e-7 apart; the current item's kind
+ *   is the list's
+ * @param[in] n  number of points to go through, 2 or more
+ * @param[in] degree  1 to 15; n - 1 is taken when that is less
+ * @return the curve, the caller's, of type 93 or 98 with as many control points as it goes through points; null for a
+ *   list of another kind, n or degree out of range, neighbours that coincide, a point that is not finite, and after a
+ *   memory message
+ */
+KX_API curve *KX_CALL kx_curve_thru_npoints(const list_hdr *points, int32_t n, int32_t degree);
+
 #ifdef __cplusplus
 }
 #endif
