@@ -610,7 +610,7 @@ KX_API int32_t KX_CALL kx_def_ubetaspl_curve3d(list_hdr *ctrl, curve *c, double 
  * Turns a B-spline into Bezier curves with kx_bspl_to_bezier_curve2d or, for a type of space, with
  * kx_bspl_to_bezier_curve3d.
  * @param[in] c  the curve
- * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[out] pieces[room],count  as kx_bspl_to_bezier_curve2d
  * @param[in] room  as kx_bspl_to_bezier_curve2d
  * @return what that function returns
  */
@@ -623,8 +623,8 @@ KX_API int32_t KX_CALL kx_bspl_to_bezier_curve(const curve *c, curve **pieces, i
  * poly_2d (62) numbered from 0; its knots are two numbers, the ends of the span in the parameter of c (i and i + 1 for
  * segment i of a uniform curve), over which the piece runs evenly from 0 to 1.
  * @param[in] c  the curve
- * @param[out] pieces  the pieces in order: curves that have nothing in common with c or each other, owned by the caller
- *   and freed by kx_purge_curve; null to learn their number only; all null on 80 after the message of a piece,
+ * @param[out] pieces[room]  the pieces in order: curves that have nothing in common with c or each other, owned by the
+ * caller and freed by kx_purge_curve; null to learn their number only; all null on 80 after the message of a piece,
  *   unwritten on any other failure
  * @param[in] room  number of pointers that fit into pieces; at most as many pieces are made as there are control points
  * @param[out] count  number of pieces, also when there is no room for them; 0 on any other failure but that of a
@@ -639,7 +639,7 @@ KX_API int32_t KX_CALL kx_bspl_to_bezier_curve2d(const curve *c, curve **pieces,
  * Turns a space B-spline (84, 88, 92, 98) into Bezier curves of types 86 and 97 with poly_3d points (63), in every
  * respect as kx_bspl_to_bezier_curve2d does.
  * @param[in] c  the curve
- * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[out] pieces[room],count  as kx_bspl_to_bezier_curve2d
  * @param[in] room  as kx_bspl_to_bezier_curve2d
  * @return as kx_bspl_to_bezier_curve2d
  */
@@ -649,7 +649,7 @@ KX_API int32_t KX_CALL kx_bspl_to_bezier_curve3d(const curve *c, curve **pieces,
  * Turns a NURBS curve into rational Bezier curves with kx_rat_bspl_to_bezier_curve2d or, for type 95, with
  * kx_rat_bspl_to_bezier_curve3d.
  * @param[in] c  the curve
- * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[out] pieces[room],count  as kx_bspl_to_bezier_curve2d
  * @param[in] room  as kx_bspl_to_bezier_curve2d
  * @return what that function returns
  */
@@ -659,7 +659,7 @@ KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve(const curve *c, curve **piece
  * Turns a plane NURBS curve (94) into rational Bezier curves (96) that together are the same curve: as
  * kx_bspl_to_bezier_curve2d does, with the knots inserted into the weighted points and the weights alike.
  * @param[in] c  the curve; its weights are to be above 0, and so are those of the pieces then
- * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[out] pieces[room],count  as kx_bspl_to_bezier_curve2d
  * @param[in] room  as kx_bspl_to_bezier_curve2d
  * @return as kx_bspl_to_bezier_curve2d; 6 fewer weights than control points, or one outside 1e-60 to 1e60
  */
@@ -669,7 +669,7 @@ KX_API int32_t KX_CALL kx_rat_bspl_to_bezier_curve2d(const curve *c, curve **pie
  * Turns a space NURBS curve (95) into rational Bezier curves (97) with poly_3d points (63), in every respect as
  * kx_rat_bspl_to_bezier_curve2d does.
  * @param[in] c  the curve
- * @param[out] pieces,count  as kx_bspl_to_bezier_curve2d
+ * @param[out] pieces[room],count  as kx_bspl_to_bezier_curve2d
  * @param[in] room  as kx_bspl_to_bezier_curve2d
  * @return as kx_rat_bspl_to_bezier_curve2d
  */

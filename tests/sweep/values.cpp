@@ -195,6 +195,12 @@ void values<curve *>::make(const request &r, draw &d, slot &s) {
   }
 }
 
+int values<curve **>::specials(const parameter &) { return 1; }
+void values<curve **>::make(const request &r, draw &, slot &s) {
+  const std::size_t bytes = sizeof(curve *) * static_cast<std::size_t>(r.length);
+  s.set(r.special < 0 ? static_cast<curve **>(std::memset(new_block(bytes), 0, bytes)) : nullptr);
+}
+
 int values<curv *>::specials(const parameter &) { return 1; }
 void values<curv *>::make(const request &r, draw &, slot &s) { s.set(r.special < 0 ? kx_create_curv() : nullptr); }
 

@@ -163,6 +163,7 @@ using compare_function = std::int32_t(KX_CALL *)(void *, void *);
 SWEEP_SPECIAL_TYPE(list_hdr *);
 SWEEP_SPECIAL_TYPE(list_hdr **);
 SWEEP_SPECIAL_TYPE(curve *);
+SWEEP_SPECIAL_TYPE(curve **);
 SWEEP_SPECIAL_TYPE(curv *);
 SWEEP_SPECIAL_TYPE(char *);
 SWEEP_SPECIAL_TYPE(void *);
