@@ -108,7 +108,7 @@ inline bool append_vertex(list_hdr &list, std::uint32_t number, typename D::vect
 
 // Samples of one call beyond which there is no memory by decree: no 32-bit host has room for them, and a step count
 // mistyped must not swallow the memory of a larger one.
-inline constexpr std::int64_t most_samples = 10000000;
+inline constexpr std::int64_t most_list_samples = 10000000;
 
 // A sample of a curve: the point and its statistics.
 template <class D>

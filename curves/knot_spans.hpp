@@ -90,7 +90,7 @@ std::int32_t make_spans(curve *c, std::int32_t type, span_request asked, const c
 
   const scratch<double> array(m < 0 ? 1 : m + 1);
   const std::int64_t noted = asked.steps != 0 ? asked.steps : c->span_steps, steps = noted == 0 ? 1 : noted;
-  if (!array || (asked.n_spans > 0 && steps >= most_samples / asked.n_spans)) {
+  if (!array || (asked.n_spans > 0 && steps >= most_list_samples / asked.n_spans)) {
     report_no_memory(location);
     return 80;
   }

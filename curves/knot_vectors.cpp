@@ -43,7 +43,7 @@ std::int32_t KX_CALL kx_findknotspan(const double *knots, std::int32_t last, std
 std::int32_t KX_CALL kx_basisfunctions(const double *knots, std::int32_t span, std::int32_t degree, double t,
                                        std::int32_t derivs, double *out) {
   if (knots == nullptr || out == nullptr) return 40;
-  if (degree < 0 || degree > kx::max_degree) return 2;
+  if (degree < 0 || degree > kx::max_degree || span < degree - 1) return 2;
   const std::ptrdiff_t p = degree;
   const double *from = knots + span;
   // values[q]: the q+1 functions of degree q.

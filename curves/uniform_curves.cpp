@@ -78,7 +78,7 @@ std::int32_t make(curve *c, double step) {
   std::int32_t n = kx::item_count(c->ctrl_pnts);
   if (n < 4) return 2;
   if (bezier) n -= n % 4;
-  if ((n - 3) / step >= kx::most_samples) {
+  if ((n - 3) / step >= kx::most_list_samples) {
     kx::report_no_memory(count_location(D{}));
     return 80;
   }

@@ -198,7 +198,7 @@ KX_API int32_t KX_CALL kx_mk_ucurve3d(curve *c, double step);
  * derivative vanishes; their direction is 0.
  * @param[in] c  the curve
  * @param[in] t  parameter from 0 to 1, with the tolerance 1e-7 below and 2e-7 above
- * @param[in] ctrl  the four control points of the segment
+ * @param[in] ctrl[4]  the four control points of the segment
  * @param[out] point  the point of the curve; any of the outputs may be null; all unwritten on failure
  * @param[out] tangent  unit first derivative
  * @param[out] second  unit second derivative
@@ -213,7 +213,7 @@ KX_API int32_t KX_CALL kx_eval_t_on_ucurve2d(const curve *c, double t, poly_2d *
 /**
  * Finds the knot span s of a parameter: knots[s] <= t < knots[s+1], or with side -1 knots[s] < t <= knots[s+1]. At or
  * below the first knot the answer is degree - 1, at or above the last one last - degree, whatever the knots are.
- * @param[in] knots  knot vector, not decreasing
+ * @param[in] knots[last+1]  knot vector, not decreasing
  * @param[in] last  index of its last knot
  * @param[in] degree  degree of the curve
  * @param[in] t  parameter
@@ -225,12 +225,12 @@ KX_API int32_t KX_CALL kx_findknotspan(const double *knots, int32_t last, int32_
 /**
  * Computes the degree + 1 B-spline basis functions that are not zero on a knot span, and their derivatives. The values
  * sum to 1, those of each derivative to 0. A span of no length has no functions: all values are 0.
- * @param[in] knots  knot vector, not decreasing; read from knots[span+1-degree] to knots[span+degree]
+ * @param[in] knots[span+degree+1]  knot vector, not decreasing; read from knots[span+1-degree] to knots[span+degree]
  * @param[in] span  the knot span of t
  * @param[in] degree  0 to 15
  * @param[in] t  parameter
  * @param[in] derivs  highest derivative wanted; negative counts as 0
- * @param[out] out  (derivs + 1) rows of degree + 1 values, the row of order 0 first; orders above the degree are 0
+ * @param[out] out[(derivs+1)*(degree+1)]  (derivs + 1) rows of degree + 1 values, the row of order 0 first; orders above the degree are 0
  * @return 0; 2 degree outside 0 to 15; 40 null knots or out; out unwritten unless 0
  */
 KX_API int32_t KX_CALL kx_basisfunctions(const double *knots, int32_t span, int32_t degree, double t, int32_t derivs,
@@ -243,8 +243,8 @@ KX_API int32_t KX_CALL kx_basisfunctions(const double *knots, int32_t span, int3
  * repeated knot among those used may give infinities or no numbers, as a t that is no number does.
  * @param[in] t  parameter, not below -1e-7
  * @param[in] degree  0 to 15
- * @param[in] ctrl  the span's degree + 1 control points
- * @param[in] knots  2 * degree knots, of which knots[degree-1] and knots[degree] bound the span
+ * @param[in] ctrl[degree+1]  the span's degree + 1 control points
+ * @param[in] knots[2*degree]  those of the span: knots[degree-1] and knots[degree] bound the span
  * @param[out] out  the point; unwritten on failure
  * @return 0; 2 t below -1e-7 or degree outside 0 to 15; 40 a null pointer or control point
  */
@@ -254,8 +254,8 @@ KX_API int32_t KX_CALL kx_deboor_2d(double t, int32_t degree, poly_2d *const *ct
  * Evaluates a non-uniform space B-spline on one knot span as kx_deboor_2d does.
  * @param[in] t  parameter, not below -1e-7
  * @param[in] degree  0 to 15
- * @param[in] ctrl  the span's degree + 1 control points
- * @param[in] knots  2 * degree knots, of which knots[degree-1] and knots[degree] bound the span
+ * @param[in] ctrl[degree+1]  the span's degree + 1 control points
+ * @param[in] knots[2*degree]  those of the span: knots[degree-1] and knots[degree] bound the span
  * @param[out] out  the point; unwritten on failure
  * @return as kx_deboor_2d
  */
@@ -266,9 +266,9 @@ KX_API int32_t KX_CALL kx_deboor_3d(double t, int32_t degree, poly_3d *const *ct
  * point divided by its weight.
  * @param[in] t  parameter, not below -1e-7
  * @param[in] degree  0 to 15
- * @param[in] ctrl  the span's degree + 1 control points
- * @param[in] weights  their weights
- * @param[in] knots  2 * degree knots, of which knots[degree-1] and knots[degree] bound the span
+ * @param[in] ctrl[degree+1]  the span's degree + 1 control points
+ * @param[in] weights[degree+1]  their weights
+ * @param[in] knots[2*degree]  those of the span: knots[degree-1] and knots[degree] bound the span
  * @param[out] out  the point; unwritten on failure
  * @return 0; 2 t below -1e-7 or degree outside 0 to 15; 3 the point's weight is within 1e-7 of 0 or not finite; 40 a
  *   null pointer or control point
@@ -280,9 +280,9 @@ KX_API int32_t KX_CALL kx_rat_deboor_2d(double t, int32_t degree, poly_2d *const
  * Evaluates a space NURBS curve on one knot span as kx_rat_deboor_2d does.
  * @param[in] t  parameter, not below -1e-7
  * @param[in] degree  0 to 15
- * @param[in] ctrl  the span's degree + 1 control points
- * @param[in] weights  their weights
- * @param[in] knots  2 * degree knots, of which knots[degree-1] and knots[degree] bound the span
+ * @param[in] ctrl[degree+1]  the span's degree + 1 control points
+ * @param[in] weights[degree+1]  their weights
+ * @param[in] knots[2*degree]  those of the span: knots[degree-1] and knots[degree] bound the span
  * @param[out] out  the point; unwritten on failure
  * @return as kx_rat_deboor_2d
  */
@@ -726,7 +726,7 @@ KX_API int32_t KX_CALL kx_curve_pnt_3d(const curve *c, double t, pnt_3d *pnt);
  * @param[in] c  the curve
  * @param[in] t  parameter
  * @param[in] order  highest derivative wanted, 0 to 30
- * @param[out] out  order + 1 rows of x, y, the point first
+ * @param[out] out[2*(order+1)]  order + 1 rows of x, y, the point first
  * @return 0; 1 to 7, 40, 80 as said above; 8 order out of range
  */
 KX_API int32_t KX_CALL kx_curve_derivs_2d(const curve *c, double t, int32_t order, double *out);
@@ -736,7 +736,7 @@ KX_API int32_t KX_CALL kx_curve_derivs_2d(const curve *c, double t, int32_t orde
  * @param[in] c  the curve
  * @param[in] t  parameter
  * @param[in] order  highest derivative wanted, 0 to 30
- * @param[out] out  order + 1 rows of x, y, z, the point first
+ * @param[out] out[3*(order+1)]  order + 1 rows of x, y, z, the point first
  * @return as kx_curve_derivs_2d
  */
 KX_API int32_t KX_CALL kx_curve_derivs_3d(const curve *c, double t, int32_t order, double *out);
@@ -744,9 +744,9 @@ KX_API int32_t KX_CALL kx_curve_derivs_3d(const curve *c, double t, int32_t orde
 /**
  * The points of a plane curve at many parameters, in any order; quickest when they increase.
  * @param[in] c  the curve
- * @param[in] t  parameters
+ * @param[in] t[count]  parameters
  * @param[in] count  how many
- * @param[out] xy  x, y of each; unwritten unless all parameters are in the range
+ * @param[out] xy[2*count]  x, y of each; unwritten unless all parameters are in the range
  * @return 0; 1 to 7, 40, 80 as said above; 8 negative count
  */
 KX_API int32_t KX_CALL kx_curve_pntsat_2d(const curve *c, const double *t, int32_t count, double *xy);
@@ -754,9 +754,9 @@ KX_API int32_t KX_CALL kx_curve_pntsat_2d(const curve *c, const double *t, int32
 /**
  * The points of a space curve at many parameters, as kx_curve_pntsat_2d.
  * @param[in] c  the curve
- * @param[in] t  parameters
+ * @param[in] t[count]  parameters
  * @param[in] count  how many
- * @param[out] xyz  x, y, z of each; unwritten unless all parameters are in the range
+ * @param[out] xyz[3*count]  x, y, z of each; unwritten unless all parameters are in the range
  * @return as kx_curve_pntsat_2d
  */
 KX_API int32_t KX_CALL kx_curve_pntsat_3d(const curve *c, const double *t, int32_t count, double *xyz);
@@ -768,7 +768,7 @@ KX_API int32_t KX_CALL kx_curve_pntsat_3d(const curve *c, const double *t, int32
  * @param[in] c  the curve
  * @param[in] from,to  first and last parameter, in either order
  * @param[in] count  number of points, 2 to 1 000 000
- * @param[out] xy  x, y of each
+ * @param[out] xy[2*count]  x, y of each
  * @return 0; 1 to 7, 40, 80 as said above; 8 count out of range
  */
 KX_API int32_t KX_CALL kx_curve_pnts_2d(const curve *c, double from, double to, int32_t count, double *xy);
@@ -778,7 +778,7 @@ KX_API int32_t KX_CALL kx_curve_pnts_2d(const curve *c, double from, double to, 
  * @param[in] c  the curve
  * @param[in] from,to  first and last parameter, in either order
  * @param[in] count  number of points, 2 to 1 000 000
- * @param[out] xyz  x, y, z of each
+ * @param[out] xyz[3*count]  x, y, z of each
  * @return as kx_curve_pnts_2d
  */
 KX_API int32_t KX_CALL kx_curve_pnts_3d(const curve *c, double from, double to, int32_t count, double *xyz);
@@ -789,7 +789,7 @@ KX_API int32_t KX_CALL kx_curve_pnts_3d(const curve *c, double from, double to, 
  * @param[in] c  the curve
  * @param[in] steps  steps of each piece, 1 or more
  * @param[in] capacity  points for which there is room; 0 to ask for the number
- * @param[out] xy  x, y of each, as far as there is room; may be null when capacity is 0
+ * @param[out] xy[2*capacity]  x, y of each, as far as there is room; may be null when capacity is 0
  * @param[out] count  number of points that the curve has
  * @return 0; 1 to 6, 40, 80 as said above; 8 steps or capacity out of range; 9 the points might be more than 1 000 000;
  *   10 capacity is less than count, which is written
@@ -801,7 +801,7 @@ KX_API int32_t KX_CALL kx_curve_steps_2d(const curve *c, int32_t steps, int32_t 
  * @param[in] c  the curve
  * @param[in] steps  steps of each piece, 1 or more
  * @param[in] capacity  points for which there is room; 0 to ask for the number
- * @param[out] xyz  x, y, z of each, as far as there is room; may be null when capacity is 0
+ * @param[out] xyz[3*capacity]  x, y, z of each, as far as there is room; may be null when capacity is 0
  * @param[out] count  number of points that the curve has
  * @return as kx_curve_steps_2d
  */
@@ -814,7 +814,7 @@ KX_API int32_t KX_CALL kx_curve_steps_3d(const curve *c, int32_t steps, int32_t 
  * @param[in] c  the curve
  * @param[in] tol  largest distance between curve and chord, above 0
  * @param[in] capacity  points for which there is room; 0 to ask for the number
- * @param[out] xy  x, y of each, as far as there is room; may be null when capacity is 0
+ * @param[out] xy[2*capacity]  x, y of each, as far as there is room; may be null when capacity is 0
  * @param[out] count  number of points of the polygon
  * @return 0; 1 to 6, 40, 80 as said above; 8 a tolerance not above 0 or not finite, or a negative capacity; 9 more than
  *   1 000 000 points; 10 capacity is less than count, which is written
@@ -826,7 +826,7 @@ KX_API int32_t KX_CALL kx_curve_chords_2d(const curve *c, double tol, int32_t ca
  * @param[in] c  the curve
  * @param[in] tol  largest distance between curve and chord, above 0
  * @param[in] capacity  points for which there is room; 0 to ask for the number
- * @param[out] xyz  x, y, z of each, as far as there is room; may be null when capacity is 0
+ * @param[out] xyz[3*capacity]  x, y, z of each, as far as there is room; may be null when capacity is 0
  * @param[out] count  number of points of the polygon
  * @return as kx_curve_chords_2d
  */

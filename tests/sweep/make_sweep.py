@@ -23,7 +23,8 @@ def length(parameter, names):
     """The number of elements as a function of all integer parameters; *n is the integer that n points to."""
     if not parameter.length:
         return "nullptr"
-    words = re.sub(r"\*?\b([a-z]\w*)\b", lambda match: f"n[{names.index(match[1])}]", parameter.length)
+    values = re.sub(r"(^|[(+*-])\*", r"\1", parameter.length)
+    words = re.sub(r"\b([a-z]\w*)\b", lambda match: f"n[{names.index(match[1])}]", values)
     return f"[](const long *n) -> long {{ (void)n; return {words}; }}"
 
 

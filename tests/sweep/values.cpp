@@ -11,6 +11,21 @@ void *new_block(std::size_t bytes) { return kx_create_char_array(static_cast<std
 void set_usual(double &value, draw &d) { value = d.number(); }
 void set_usual(std::int32_t &value, draw &d) { value = d.below(6); }
 
+// Knots do not decrease, a matrix to solve with has no zero on its diagonal, a window has sides.
+void make_valid(const parameter &p, double *values, long n) {
+  const std::string_view name = p.name;
+  if (name == "knots") {
+    for (long i = 1; i < n; ++i) values[i] = values[i - 1] + 0.25 + std::fabs(values[i]) / 32.0;
+  } else if (name == "band") {
+    for (long i = 0; i < n; ++i) values[i] += 64.0;
+  }
+}
+void make_valid(const parameter &p, rect_2d *rectangles, long) {
+  if (std::string_view(p.name) != "window") return;
+  rectangles->x2 = rectangles->x1 + 8.0;
+  rectangles->y2 = rectangles->y1 - 4.0;
+}
+
 int field_specials(const std::vector<field> &fields) {
   int n = 0;
   for (const field &f : fields) n += f.real ? doubles : integers;
@@ -87,7 +102,7 @@ list_hdr *numbers(int n, bool ascending, draw &d) {
 list_hdr *usual_list(std::string_view name, draw &d) {
   if (name == "knots") return numbers(7 + d.below(6), true, d);
   if (name == "weights") return numbers(6 + d.below(4), false, d);
-  if (name == "store") return list_of(d.below(2) ? KX_MATRIXREC2D : KX_MATRIXREC3D, 1 + d.below(4), d);
+  if (name == "store") return list_of(d.below(2) ? KX_MATRIXREC2D : KX_MATRIXREC3D, 2 + d.below(4), d);
   return list_of(point_tags[d.below(4)], 4 + d.below(5), d);
 }
 

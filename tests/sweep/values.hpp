@@ -101,6 +101,11 @@ T *new_records(long n, draw &d) {
   return records;
 }
 
+// Where any numbers would not do.
+void make_valid(const parameter &p, double *values, long n);
+void make_valid(const parameter &p, rect_2d *rectangles, long n);
+inline void make_valid(const parameter &, void *, long) {}
+
 // How many ways there are to make one field of a record special, and the n-th of them.
 int field_specials(const std::vector<field> &fields);
 void make_special(const std::vector<field> &fields, void *record, int n);
@@ -146,6 +151,7 @@ struct values<T *, std::enable_if_t<!std::is_pointer_v<T> && !std::is_function_v
   static int specials(const parameter &p) { return 1 + field_specials(fields_of<record>()) - p.is_length; }
   static void make(const request &r, draw &d, slot &s) {
     record *made = new_records<record>(r.length, d);
+    make_valid(*r.of, made, r.length);
     if (r.special > 0)
       make_special(fields_of<record>(), made + d.below(static_cast<std::int32_t>(r.length)), r.special - 1);
     s.set(r.special == 0 ? nullptr : made);
