@@ -230,8 +230,9 @@ KX_API int32_t KX_CALL kx_findknotspan(const double *knots, int32_t last, int32_
  * @param[in] degree  0 to 15
  * @param[in] t  parameter
  * @param[in] derivs  highest derivative wanted; negative counts as 0
- * @param[out] out[(derivs+1)*(degree+1)]  (derivs + 1) rows of degree + 1 values, the row of order 0 first; orders above the degree are 0
- * @return 0; 2 degree outside 0 to 15; 40 null knots or out; out unwritten unless 0
+ * @param[out] out[(max(derivs,0)+1)*(degree+1)]  (derivs + 1) rows of degree + 1 values, the row of order 0 first;
+ *   orders above the degree are 0
+ * @return 0; 2 degree outside 0 to 15, or span below degree - 1; 40 null knots or out; out unwritten unless 0
  */
 KX_API int32_t KX_CALL kx_basisfunctions(const double *knots, int32_t span, int32_t degree, double t, int32_t derivs,
                                          double *out);

@@ -24,7 +24,7 @@ def length(parameter, names):
     if not parameter.length:
         return "nullptr"
     values = re.sub(r"(^|[(+*-])\*", r"\1", parameter.length)
-    words = re.sub(r"\b([a-z]\w*)\b", lambda match: f"n[{names.index(match[1])}]", values)
+    words = re.sub(r"\b(?!max\b)([a-z]\w*)\b", lambda match: f"n[{names.index(match[1])}]", values)
     return f"[](const long *n) -> long {{ (void)n; return {words}; }}"
 
 

@@ -10,6 +10,9 @@
 
 namespace sweep {
 
+// For the lengths of arrays.
+inline long max(long a, long b) { return a > b ? a : b; }
+
 // What a parameter's type can do.
 struct type {
   int (*specials)(const parameter &);
