@@ -153,6 +153,6 @@ curv *KX_CALL kx_create_curv(void) {
 
 void KX_CALL kx_purge_curv(curv *c) {
   if (c == nullptr) return;
-  for (void *block : c->pointers) kx::release(block);
+  for (void *host_block : c->pointers) kx::release(host_block);
   kx::release(c);
 }

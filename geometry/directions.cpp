@@ -2,9 +2,9 @@
 #include <cmath>
 
 #include "chords.hpp"
-#include "direction.hpp"
 #include "kxgeom/geometry.h"
 #include "line.hpp"
+#include "records/direction.hpp"
 #include "status.hpp"
 
 namespace {

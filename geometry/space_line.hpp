@@ -5,24 +5,14 @@
 #include <cstdint>
 #include <limits>
 
-#include "geometry/direction.hpp"
 #include "kxgeom/types.h"
+#include "records/direction.hpp"
 #include "records/vector.hpp"
 #include "runtime/tolerance.hpp"
 
 namespace kx {
 
-inline vec3 value(const pnt_3d &p) { return {p.x, p.y, p.z}; }
-inline vec3 value(const vector_3d &v) { return {v.i, v.j, v.k}; }
 inline vec3 normal(const planeeq &p) { return {p.a, p.b, p.c}; }
-inline pnt_3d record(vec3 v) { return {v.x, v.y, v.z}; }
-
-// The angle that the direction field holds: of i and j, in degrees counter-clockwise from x; 0 when upright.
-inline double azimuth(vec3 v) { return direction_degrees({0.0, 0.0}, {v.x, v.y}); }
-
-// A vector record with all its fields.
-inline vector_3d whole_record(vec3 v, double len) { return {azimuth(v), len, v.x, v.y, v.z}; }
-inline vector_3d whole_record(vec3 v) { return whole_record(v, length(v)); }
 
 inline bool vanishes(vec3 v) { return near_zero(v.x) && near_zero(v.y) && near_zero(v.z); }
 

@@ -10,6 +10,7 @@
 #include "kxgeom/polygon.h"
 #include "kxgeom/records.h"
 #include "kxgeom/runtime.h"
+#include "kxgeom/solids.h"
 #include "kxgeom/transform.h"
 
 #endif

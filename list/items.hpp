@@ -87,6 +87,21 @@ inline void move_items(list_hdr &from, list_hdr &to) {
   from = {};
 }
 
+// Links all items of one list after the tail of another, the last one current; the source is empty afterwards.
+inline void splice(list_hdr &list, list_hdr &more) {
+  if (empty(&more)) return;
+  if (empty(&list)) {
+    list = more;
+  } else {
+    more.head->prev = list.tail;
+    list.tail->next = more.head;
+    list.tail = more.tail;
+    list.count += more.count;
+  }
+  list.current = list.tail;
+  more = {};
+}
+
 // Frees all items with their data; the list is empty afterwards.
 inline void release_items(list_hdr &list) {
   for (list_item &item : items(&list)) {

@@ -31,6 +31,7 @@ inline std::size_t record_size(std::int32_t tag) {
     case KX_POLY_3D: return sizeof(poly_3d);
     case KX_CURVE_STATS_2D: return sizeof(curve_stats_2d);
     case KX_CURVE_STATS_3D: return sizeof(curve_stats_3d);
+    case KX_POLYFACE_3D: return sizeof(polyface_3d);
     case KX_MATRIXREC2D: return sizeof(matrixrec2d);
     case KX_MATRIXREC3D: return sizeof(matrixrec3d);
     case KX_RNUMBER: return sizeof(rnumber);

@@ -7,11 +7,11 @@
 #include <emmintrin.h>
 #endif
 
-#include "geometry/direction.hpp"
 #include "geometry/line.hpp"
 #include "kxgeom/polygon.h"
 #include "kxgeom/runtime.h"
 #include "plane_points.hpp"
+#include "records/direction.hpp"
 #include "records/output.hpp"
 #include "runtime/tolerance.hpp"
 
@@ -70,9 +70,9 @@ int32_t KX_CALL kx_polygontype(const pnt_2d *polygon, int32_t count, int32_t *ty
   bends b;
   b.add(turn(polygon[count - 1], polygon[0], polygon[1]));
   b.add(turn(polygon[count - 2], polygon[count - 1], polygon[0]));
-  constexpr std::int32_t block = 128;
-  for (std::int32_t first = 1; first < count - 1 && b.type() != concave; first += block)
-    add_turns(b, polygon + first, std::min(block, count - 1 - first));
+  constexpr std::int32_t batch = 128;
+  for (std::int32_t first = 1; first < count - 1 && b.type() != concave; first += batch)
+    add_turns(b, polygon + first, std::min(batch, count - 1 - first));
   *type = b.type();
   return 0;
 }

@@ -4,11 +4,11 @@
 
 #include "edge_sweep.hpp"
 #include "edge_tree.hpp"
-#include "geometry/direction.hpp"
 #include "geometry/line.hpp"
 #include "kxgeom/polygon.h"
 #include "plane_points.hpp"
 #include "ray.hpp"
+#include "records/direction.hpp"
 #include "runtime/tolerance.hpp"
 
 namespace {

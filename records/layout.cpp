@@ -30,3 +30,33 @@ static_assert(offsetof(curv, pointers) == 32);
 static_assert(sizeof(curve) == 148 + 5 * sizeof(void *) && sizeof(curv) == 32 + 2 * sizeof(void *));
 static_assert(sizeof(list_hdr) == 3 * sizeof(void *) + 4 && sizeof(list_item) == 3 * sizeof(void *) + 4);
 static_assert(offsetof(list_item, prev) == sizeof(void *) + 4);
+
+static_assert(offsetof(solid, xmin) == 12 && offsetof(solid, face_list) == 60);
+static_assert(sizeof(solid) == 60 + 3 * sizeof(void *));
+static_assert(offsetof(polyface_3d, vertex_numbers) == 48 && offsetof(polyface_3d, vertex_attributes) == 64);
+static_assert(offsetof(polyface_3d, extra_words) == 80 && offsetof(polyface_3d, more_vertices) == 120);
+static_assert(offsetof(polyface_3d, ring_room) == 120 + 2 * sizeof(void *));
+static_assert(sizeof(polyface_3d) == 168 + 2 * sizeof(void *));
+static_assert(offsetof(surface, min_pnt) == 8 && offsetof(surface, coef_x) == 56 && offsetof(surface, step_u) == 440);
+static_assert(offsetof(surface, steps_v) == 456 && offsetof(surface, steps_u) == 460);
+static_assert(offsetof(surface, control_points) == 464 && sizeof(surface) == 464 + 6 * sizeof(void *));
+static_assert(offsetof(vertex_pnt, value) == 72 && sizeof(vertex_pnt) == 76 + sizeof(void *));
+static_assert(offsetof(picture_area, work_buffer_1) == 24 && offsetof(picture_area, title) == 32 + 2 * sizeof(void *));
+static_assert(offsetof(picture_area, items) == 52 + 2 * sizeof(void *) && sizeof(picture_label) == 192);
+static_assert(offsetof(picture_area, area_min) == 52 + 5 * sizeof(void *) + sizeof(list_hdr));
+static_assert(offsetof(picture_area, slots) == 132 + 5 * sizeof(void *) + sizeof(list_hdr));
+static_assert(offsetof(picture_area, extra_block_1) == 22404 + 5 * sizeof(void *) + sizeof(list_hdr));
+
+// The primitives are copied as so many 32-bit words, and hosts know how many.
+template <class T>
+constexpr bool has_words(std::size_t n) {
+  return sizeof(T) == 4 * n;
+}
+static_assert(has_words<sphere>(10) && has_words<cylinder>(20) && has_words<ellipsoid>(21) && has_words<block>(18));
+static_assert(has_words<prism>(23) && has_words<cone>(20) && has_words<hcylinder>(24) && has_words<hyperboloid>(25));
+static_assert(has_words<paraboloid>(20) && has_words<pyramid>(18) && has_words<torus>(19) &&
+              has_words<tetrahedron>(14));
+static_assert(offsetof(cylinder, diameter_x) == 28 && offsetof(cylinder, sectors) == 52);
+static_assert(offsetof(torus, major_radius) == 28 && offsetof(torus, sectors) == 44 && offsetof(torus, axis_x) == 52);
+static_assert(offsetof(tetrahedron, size) == 24 && offsetof(tetrahedron, axis_x) == 32);
+static_assert(offsetof(bodyrev, profile) == offsetof(extbody, profile));

@@ -17,6 +17,10 @@ struct vec3 {
   double x, y, z;
 };
 
+inline vec3 value(const pnt_3d &p) { return {p.x, p.y, p.z}; }
+inline vec3 value(const vector_3d &v) { return {v.i, v.j, v.k}; }
+inline pnt_3d record(vec3 v) { return {v.x, v.y, v.z}; }
+
 inline vec2 operator+(vec2 a, vec2 b) { return {a.x + b.x, a.y + b.y}; }
 inline vec2 operator-(vec2 a, vec2 b) { return {a.x - b.x, a.y - b.y}; }
 inline vec2 operator*(double s, vec2 v) { return {s * v.x, s * v.y}; }

@@ -1200,6 +1200,363 @@ KX_API int32_t KX_CALL kx_get_xyzpolyheap(list_hdr *list, pnt_3d *array, int32_t
  */
 KX_API list_hdr *KX_CALL kx_pnt3d_array_to_list(const pnt_3d *array, int32_t n, int32_t datatype, int32_t first,
                                                 int32_t increment);
+
+/* ---- faces ---- */
+
+/* A ring of more than four vertices is read in two ways. kx_get_face, kx_get_next_face_loc and kx_set_polyface_3d use
+ * the face's slots: number i in slot i, over the attributes. kx_get_polyface_3d takes the fifth and later numbers from
+ * more_vertices. The faces that the library builds can be read either way. A ring longer than KX_RING_MOST hangs from
+ * more_vertices alone, and everyone reads it there. */
+
+/**
+ * Creates a face: every field 0, no lists.
+ * @return the face, owned by the caller and freed by kx_purge_polyface_3d; null after the memory message
+ *   "kx_create_polyface_3d"
+ */
+KX_API polyface_3d *KX_CALL kx_create_polyface_3d(void);
+
+/**
+ * Frees a face and the numbers in its more_vertices. The header of that list and face_points stay with whoever hung
+ * them there.
+ * @param[in] face  the face; null does nothing
+ */
+KX_API void KX_CALL kx_purge_polyface_3d(polyface_3d *face);
+
+/**
+ * Frees the numbers in a face's more_vertices; the list stays, empty.
+ * @param[in,out] face  the face; null does nothing
+ */
+KX_API void KX_CALL kx_clear_polyface_3d(polyface_3d *face);
+
+/**
+ * Makes a face anew: every other field 0, both lists null (those it had are not freed), its ring in the slots.
+ * @param[in] face_number,vertex_count  stored as they are
+ * @param[in] numbers  vertex_count vertex numbers in ring order
+ * @param[in] attributes  vertex_count attributes, one for each edge; null for all 0
+ * @param[in] normal  the normal, stored as it is; null for the zero vector
+ * @param[out] face  the face; as it was unless the result is 0
+ * @return 0; 1 for a null face; 2 for a ring longer than KX_RING_MOST, or without numbers
+ */
+KX_API int32_t KX_CALL kx_set_polyface_3d(int32_t face_number, int32_t vertex_count, const int32_t *numbers,
+                                          const int32_t *attributes, const vector_3d *normal, polyface_3d *face);
+
+/**
+ * Reads a face: the first four numbers and attributes from the record, the fifth and later numbers from more_vertices,
+ * whose position ends at its head. Outputs may be null.
+ * @param[out] face_number,vertex_count,normal  the fields
+ * @param[out] numbers  vertex_count numbers, as many as there are
+ * @param[out] attributes  at most four
+ * @param[in] face  the face
+ * @return 0; 1 for a null face, nothing written; 2 when more_vertices ends early
+ */
+KX_API int32_t KX_CALL kx_get_polyface_3d(int32_t *face_number, int32_t *vertex_count, int32_t *numbers,
+                                          int32_t *attributes, vector_3d *normal, const polyface_3d *face);
+
+/**
+ * Copies a face with both its lists, item by item as kx_copy_polygon does.
+ * @param[in] face  the face; the positions of its lists end at their heads
+ * @return the copy, owned by the caller with the headers of its lists; null for null and, with nothing left behind,
+ *   after a memory message
+ */
+KX_API polyface_3d *KX_CALL kx_copy_polyface_3d(const polyface_3d *face);
+
+/**
+ * Gives each face of a list the tip of its normal: the vector product of its first two edges, (P0 - P1) x (P2 - P1),
+ * drawn from P1. The numbers of its ring are places in the vertex list, from 0. Direction and length of the normals
+ * stay, and faces with fewer than three corners, or with one that is not there, stay as they are.
+ * @param[in] vertices  poly_3d items
+ * @param[in,out] faces  polyface_3d items
+ * @return 0; 1 when either list is null; 80 without memory for the work, nothing changed
+ */
+KX_API int32_t KX_CALL kx_create_face_normal(const list_hdr *vertices, list_hdr *faces);
+
+/**
+ * Computes the normal of three vertices: (V0 - V1) x (V2 - V1), with its azimuth and length, where V0, V1 and V2 are
+ * the first three records of the list, in list order, whose stored number is one of the three given.
+ * @param[in] a,b,c  vertex numbers, in any order
+ * @param[in,out] vertices  poly_3d items; the position ends at the head
+ * @param[out] normal  the normal; as it was unless the result is 0
+ * @return 0; 1 for a null list or normal; 2 for fewer than three vertices in the list; 3 for fewer than three found
+ */
+KX_API int32_t KX_CALL kx_get_face_normal(int32_t a, int32_t b, int32_t c, list_hdr *vertices, vector_3d *normal);
+
+/**
+ * Moves the position of a face list and reads the face there, its ring from the slots. Outputs may be null.
+ * @param[in,out] faces  polyface_3d items; the face read is current
+ * @param[out] face_number,vertex_count,normal  the fields
+ * @param[out] numbers  vertex_count numbers
+ * @param[out] attributes  four; in a longer ring they hold the fifth to eighth number
+ * @param[in] position  as for ll_set_list_currpntr; 0 for any other code
+ * @return 1; 0, nothing written, for a null or empty list and for an item that is no face
+ */
+KX_API int32_t KX_CALL kx_get_next_face_loc(list_hdr *faces, int32_t *face_number, int32_t *vertex_count,
+                                            int32_t *numbers, int32_t *attributes, vector_3d *normal, int32_t position);
+
+/**
+ * Finds a face by its number and reads it, its ring from the slots. Outputs may be null.
+ * @param[in] faces  polyface_3d items
+ * @param[in] face_number  the number sought
+ * @param[out] normal  three doubles: i, j and k
+ * @param[out] attributes  four, as for kx_get_next_face_loc
+ * @param[out] numbers  the face's vertex_count numbers
+ * @return 1, also when no face bears the number, and nothing is written; 0 for a null or empty list and when the search
+ *   meets an item that is no face
+ */
+KX_API int32_t KX_CALL kx_get_face(const list_hdr *faces, int32_t face_number, double *normal, int32_t *attributes,
+                                   int32_t *numbers);
+
+/**
+ * Finds the first vertex that bears a number.
+ * @param[in] vertices  poly_3d items
+ * @param[in] number  the number sought
+ * @param[out] pnt  its point; as it was when there is none
+ * @return 1 found; 0 not found, or a null list
+ */
+KX_API int32_t KX_CALL kx_get_facevertex(const list_hdr *vertices, int32_t number, pnt_3d *pnt);
+
+/**
+ * Collects the records of a vertex list from head to tail.
+ * @param[in,out] vertices  the list; its position ends at the head
+ * @param[out] records  one pointer for each item, still the list's; one null for an empty list
+ * @return the number of pointers written; 0 for null arguments
+ */
+KX_API int32_t KX_CALL kx_get_vertex_list(list_hdr *vertices, void **records);
+
+/* ---- solids ---- */
+
+/**
+ * Creates an empty solid: every field 0.
+ * @return the solid, owned by the caller and freed by kx_purge_solid; null after the memory message "kx_create_solid"
+ */
+KX_API solid *KX_CALL kx_create_solid(void);
+
+/**
+ * Makes a raw record an empty solid; what it held is not freed.
+ * @param[out] s  the solid; null does nothing
+ * @return 0
+ */
+KX_API int32_t KX_CALL kx_init_solid(solid *s);
+
+/**
+ * Sets all of a solid. Its lists take over the items of the given ones, whose headers stay the caller's: their items
+ * are not to be freed any more. Items that the solid's lists held before are freed, unless they are the given ones.
+ * @param[in] solid_type,face_count,vertex_count,xmin,ymin,zmin,xmax,ymax,zmax  stored as they are
+ * @param[in] faces  polyface_3d items; null for none
+ * @param[in] vertices  poly_3d items; null for none
+ * @param[in] solid_data  the primitive's record, the solid's from now on; the one it had is not freed
+ * @param[in,out] s  the solid
+ * @return the count of the given face list; 0 for a null solid and, with nothing changed, after the memory message of a
+ *   list
+ */
+KX_API int32_t KX_CALL kx_set_solid(int32_t solid_type, int32_t face_count, int32_t vertex_count, double xmin,
+                                    double ymin, double zmin, double xmax, double ymax, double zmax,
+                                    const list_hdr *faces, const list_hdr *vertices, void *solid_data, solid *s);
+
+/**
+ * Reads a solid. The headers written share the solid's items, which stay the solid's. Outputs may be null.
+ * @param[out] solid_type,face_count,vertex_count,xmin,ymin,zmin,xmax,ymax,zmax  the fields
+ * @param[out] faces,vertices  headers like those of the solid's lists; empty ones where it has none
+ * @param[in] s  the solid
+ * @return faces; null, with nothing written, for a null solid
+ */
+KX_API list_hdr *KX_CALL kx_get_solid(int32_t *solid_type, int32_t *face_count, int32_t *vertex_count, double *xmin,
+                                      double *ymin, double *zmin, double *xmax, double *ymax, double *zmax,
+                                      list_hdr *faces, list_hdr *vertices, const solid *s);
+
+/**
+ * Gives the record of the primitive that a solid was built from.
+ * @param[in] s  the solid
+ * @return the record, still the solid's; null when it has none, and for null
+ */
+KX_API void *KX_CALL kx_get_solid_data(const solid *s);
+
+/**
+ * Frees a solid with all that kx_clear_solid frees.
+ * @param[in] s  the solid; null does nothing
+ * @return 0
+ */
+KX_API int32_t KX_CALL kx_purge_solid(solid *s);
+
+/**
+ * Frees what a solid owns and leaves the record, its counts and its box as they were and its three pointers null: the
+ * faces with their further numbers, the vertices, and solid_data if solid_type names a primitive. A face with as many
+ * further numbers as there are faces, or one less, ends the emptying: the faces behind it are no longer the solid's,
+ * but still allocated.
+ * @param[in,out] s  the solid; null does nothing
+ * @return 0
+ */
+KX_API int32_t KX_CALL kx_clear_solid(solid *s);
+
+/**
+ * Copies a solid: its fields, faces, vertices and primitive.
+ * @param[in] s  the solid; the positions of the lists copied end at their heads
+ * @return the copy, owned by the caller and freed by kx_purge_solid; a face that cannot be copied is left out, after
+ * its memory message; null for null and, with nothing left behind, after any other memory message
+ */
+KX_API solid *KX_CALL kx_copy_solid(const solid *s);
+
+/**
+ * Copies a primitive's record, that of a bodyrev or extbody with its profile.
+ * @param[in] solid_type  which record it is
+ * @param[in] record  the record
+ * @return the copy, owned by the caller; null for a null record, a type outside 1 to 22, 4 and 14, and, with nothing
+ *   left behind, after a memory message: that of the record's create function, or of its profile
+ */
+KX_API void *KX_CALL kx_copy_solid_data(int32_t solid_type, const void *record);
+
+/**
+ * Appends a face as kx_set_polyface_3d makes it, its normal that of its first three vertex numbers
+ * (kx_get_face_normal), the zero vector when they are not all there. A solid without a face list gets one.
+ * @param[in] face_number,numbers,attributes,vertex_count  the face
+ * @param[in,out] s  the solid; face_count grows by one, the face is current, the position of the vertices is at the
+ * head
+ * @return 1; 0, the solid unchanged, for a null solid, a ring that kx_set_polyface_3d refuses and after a memory
+ * message
+ */
+KX_API int32_t KX_CALL kx_add_face(int32_t face_number, const int32_t *numbers, const int32_t *attributes,
+                                   int32_t vertex_count, solid *s);
+
+/**
+ * Removes a face and frees it as kx_purge_polyface_3d does; face_count falls by one.
+ * @param[in,out] s  the solid; the next face becomes current, after the last one the head
+ * @param[in] position  the face, by ll_set_list_currpntr's codes 0 to 4
+ * @return 1; 0 for a null solid, an empty list, another code, and an item that is no face
+ */
+KX_API int32_t KX_CALL kx_delete_face(solid *s, int32_t position);
+
+/**
+ * Removes all faces from the head to the first item that is none. After k faces face_count has fallen by 2k + 1: a
+ * second time for each, and once for finding no more.
+ * @param[in,out] s  the solid
+ * @return the number of faces removed; 0 for a null solid or one without a face list
+ */
+KX_API int32_t KX_CALL kx_delete_face_list(solid *s);
+
+/**
+ * Adds a vertex and widens the solid's box to hold it: the box of a new solid holds the origin, and it never shrinks. A
+ * solid without a vertex list gets one.
+ * @param[in,out] s  the solid; vertex_count grows by one, the vertex is current
+ * @param[in] number  its number
+ * @param[in] pnt  its point
+ * @param[in] position  0 before the head; any other code after the tail
+ * @return 1; 0 for a null solid or point and after a memory message
+ */
+KX_API int32_t KX_CALL kx_add_vertex(solid *s, int32_t number, const pnt_3d *pnt, int32_t position);
+
+/**
+ * Removes a vertex and frees it; vertex_count falls by one, the box stays.
+ * @param[in,out] s  the solid; the next vertex becomes current, after the last one the head
+ * @param[in] position  the vertex, by ll_set_list_currpntr's codes 0 to 4
+ * @return 1; 0 for a null solid, an empty list, another code, and an item that is no point
+ */
+KX_API int32_t KX_CALL kx_delete_vertex(solid *s, int32_t position);
+
+/**
+ * Removes all vertices from the head to the first item that is none; vertex_count falls by their number.
+ * @param[in,out] s  the solid
+ * @return the number of vertices removed; 0 for a null solid or one without a vertex list
+ */
+KX_API int32_t KX_CALL kx_delete_vertex_list(solid *s);
+
+/* ---- surfaces ---- */
+
+/**
+ * Creates a surface: every field 0, no lists.
+ * @return the surface, owned by the caller and freed by kx_purge_surface; null after the memory message
+ *   "kx_create_surface"
+ */
+KX_API surface *KX_CALL kx_create_surface(void);
+
+/**
+ * Makes a raw record an empty surface; lists that it had are not freed.
+ * @param[out] s  the surface
+ * @return 0; 1 for null
+ */
+KX_API int32_t KX_CALL kx_init_surface(surface *s);
+
+/**
+ * Frees a surface with its lists; point lists that kx_purge_polygon refuses stay allocated.
+ * @param[in] s  the surface; null does nothing
+ */
+KX_API void KX_CALL kx_purge_surface(surface *s);
+
+/**
+ * Empties the lists of a surface, its point lists by kx_clear_polygon; headers and numbers stay.
+ * @param[in,out] s  the surface; null does nothing
+ */
+KX_API void KX_CALL kx_clear_surface(surface *s);
+
+/**
+ * Copies a surface: type, flags, box, coefficients, step_u, step_v and steps_v (and not steps_u, which the target
+ * keeps), and the items of the six lists, behind those that the target has.
+ * @param[in] source  the surface; the positions of its point lists end at their heads
+ * @param[in,out] target  the surface to fill, which gets the lists it lacks; null for a new one
+ * @return the target, a new one owned by the caller; null for a null source and, with nothing left behind and the
+ * target as it was, after a memory message
+ */
+KX_API surface *KX_CALL kx_copy_surface(const surface *source, surface *target);
+
+/**
+ * Appends the four-sided faces of a grid of vertices numbered 0, 1, 2, ..., to a face list. In row r and column c, with
+ * base = r * rows + c, the ring is (base, base + 1, base + 1 + rows, base + rows): the stride is the number of rows, as
+ * it is in a square grid. Faces are numbered from 0, their normals those of kx_get_face_normal.
+ * @param[in] columns,rows  points of the grid
+ * @param[in,out] faces  the face list; null makes the faces for their number alone
+ * @param[in] vertices  poly_3d items
+ * @return the number of faces; 0 when there is no cell, when there are more than 1000000 cells and than vertices, when
+ * a vertex number would not fit 32 bits, and, with none left behind, without memory
+ */
+KX_API int32_t KX_CALL kx_build_surface_face_list(int32_t columns, int32_t rows, list_hdr *faces,
+                                                  const list_hdr *vertices);
+
+/**
+ * Reads the current face of a surface, if it bears the number given: its corners, which its ring names by their place
+ * in the vertex list (counted on from the head past the end), and its normal. Outputs may be null.
+ * @param[in] s  the surface; the last corner is the current vertex
+ * @param[in] face_number  the number
+ * @param[out] pnts  the corners
+ * @param[out] normal  three doubles: i, j and k
+ * @return the current face's vertex_count, also when its number is another one and nothing is written; 0 for a null
+ *   surface, one without faces, a number below 0 or above the number of faces
+ */
+KX_API int32_t KX_CALL kx_get_surface_face(const surface *s, int32_t face_number, pnt_3d *pnts, double *normal);
+
+/* ---- picture areas ---- */
+
+/**
+ * Creates a vertex of a picture: every field 0.
+ * @return the record, owned by the caller and freed by kx_purge_vertex_pnt; null, without a message, when the heap has
+ *   no room
+ */
+KX_API vertex_pnt *KX_CALL kx_create_vertex_pnt(void);
+
+/**
+ * Frees a vertex of a picture. The items of its list are taken out; their data and the header stay the host's.
+ * @param[in] vertex  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_vertex_pnt(vertex_pnt *vertex);
+
+/**
+ * Creates a picture area: title and labels blank, the box empty (1.7e200 to -1.7e200), everything else 0.
+ * @return the record, owned by the caller and freed by kx_purge_picture_area; null, without a message, when the heap
+ * has no room
+ */
+KX_API picture_area *KX_CALL kx_create_picture_area(void);
+
+/**
+ * Empties a picture area: frees both work buffers and both extra blocks, the groups with their lists, items and data,
+ * the vertices (kx_purge_vertex_pnt), the faces (kx_purge_polyface_3d) and the data of items, and zeroes group_count,
+ * the first two words, title, slots and every pointer. Labels and box stay.
+ * @param[in,out] area  the record; null does nothing
+ */
+KX_API void KX_CALL kx_clear_picture_area(picture_area *area);
+
+/**
+ * Frees a picture area with all that kx_clear_picture_area frees.
+ * @param[in] area  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_picture_area(picture_area *area);
+
 #ifdef __cplusplus
 }
 #endif

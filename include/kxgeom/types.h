@@ -235,6 +235,234 @@ typedef struct curv {
   void *pointers[2];
 } curv;
 
+/* ---- solids ---- */
+
+/* Which record hangs from a solid. 4 and 14 are a host's own: the library neither copies nor frees what hangs there. */
+enum {
+  KX_SOLID_SPHERE = 1,
+  KX_SOLID_CYLINDER = 2,
+  KX_SOLID_ELLIPSOID = 3,
+  KX_SOLID_BLOCK = 5,
+  KX_SOLID_PRISM = 6,
+  KX_SOLID_CONE = 7,
+  KX_SOLID_HCYLINDER = 8,
+  KX_SOLID_HYPERBOLOID = 9,
+  KX_SOLID_HYPERBOLOID1S = 10,
+  KX_SOLID_PARABOLOID = 11,
+  KX_SOLID_PYRAMID = 12,
+  KX_SOLID_TORUS = 13,
+  KX_SOLID_BODYREV = 15,
+  KX_SOLID_EXTBODY = 16,
+  KX_SOLID_TETRAHEDRON = 17,
+  KX_SOLID_HEXAHEDRON = 18,
+  KX_SOLID_OCTAHEDRON = 19,
+  KX_SOLID_DODECAHEDRON = 20,
+  KX_SOLID_ICOSAHEDRON = 21,
+  KX_SOLID_HYPERBOLOID2S = 22
+};
+
+/* A closed body: numbered vertices, faces that name them by number, and the record of the primitive it came from. */
+typedef struct solid {
+  int32_t solid_type; /* 0 when unset */
+  int32_t face_count, vertex_count;
+  double xmin, ymin, zmin, xmax, ymax, zmax;
+  list_hdr *face_list;   /* polyface_3d */
+  list_hdr *vertex_list; /* poly_3d */
+  void *solid_data;
+} solid;
+
+/* A face: its ring of vertex numbers and its normal.
+   The words from vertex_numbers to face_value_2 and those of ring_room are one row of slots; the two pointers between
+   are none. A ring of at most four vertices fills vertex_numbers and, with an attribute for each of its edges, from a
+   vertex to the next, vertex_attributes. A longer ring runs on: its number i is in slot i, over the attributes and the
+   words after them, up to KX_RING_MOST numbers. The fifth and later numbers may also, or only, hang from more_vertices,
+   an int32_t each. */
+typedef struct polyface_3d {
+  int32_t vertex_count;
+  int32_t face_number;
+  vector_3d normal;
+  int32_t vertex_numbers[4];
+  int32_t vertex_attributes[4];
+  int32_t extra_words[8];
+  int32_t face_value_1, face_value_2;
+  list_hdr *more_vertices; /* inumber */
+  list_hdr *face_points;   /* a host's own points */
+  int32_t ring_room[12];
+} polyface_3d;
+
+/* The longest ring that fits a face's own slots. */
+enum { KX_RING_MOST = 26 };
+
+/* A parametric patch: bicubic coefficients, control net, the evaluated mesh and its faces. */
+typedef struct surface {
+  int32_t surface_type; /* 300 to 315, 0 when undefined */
+  int32_t surface_flags;
+  pnt_3d min_pnt, max_pnt;
+  double coef_x[4][4], coef_y[4][4], coef_z[4][4];
+  double step_u, step_v;
+  int32_t steps_v, steps_u; /* in this order */
+  list_hdr *control_points;
+  list_hdr *vertices; /* faces name them by position */
+  list_hdr *faces;    /* polyface_3d */
+  list_hdr *extra_list_1, *extra_list_2, *extra_list_3;
+} surface;
+
+/* A vertex of a host's picture; the list's data are the host's. */
+typedef struct vertex_pnt {
+  pnt_3d pnts[3];
+  int32_t value;
+  list_hdr *items;
+} vertex_pnt;
+
+typedef struct picture_label {
+  int32_t value;
+  char text[128];
+  char name[32];
+  int32_t words[7];
+} picture_label;
+
+/* Room for a host's picture. The library creates, clears and frees it; what the fields mean is the host's business. */
+typedef struct picture_area {
+  int32_t group_count;
+  int32_t words[5];
+  void *work_buffer_1, *work_buffer_2;
+  int32_t more_words[2];
+  char title[20];
+  list_hdr items;
+  list_hdr **groups;
+  list_hdr *vertex_pnts; /* vertex_pnt */
+  list_hdr *polyfaces;   /* polyface_3d */
+  pnt_2d area_min, area_max;
+  pnt_3d triples[2];
+  int32_t slots[256][3];
+  picture_label labels[100];
+  void *extra_block_1, *extra_block_2;
+} picture_area;
+
+/* ---- primitives ---- */
+
+/* What a primitive was built from. The body stands about the z axis at its centre and is then turned so that z points
+   along (axis_x, axis_y, axis_z), which is (0, 0, 1) at creation. Diameters and sizes along x, y and z are those before
+   the turn. sectors divide a circle about the axis, stacks the height. host_word is a host's own: no builder sets it.
+ */
+
+typedef struct sphere {
+  pnt_3d center;
+  double radius;
+  int32_t sectors, stacks;
+} sphere;
+
+typedef struct ellipsoid {
+  int32_t host_word;
+  pnt_3d center;
+  double diameter_x, diameter_y, diameter_z;
+  int32_t sectors, stacks;
+  double axis_x, axis_y, axis_z;
+} ellipsoid;
+
+typedef struct block {
+  pnt_3d center;
+  double size_x, size_y, size_z;
+  double axis_x, axis_y, axis_z;
+} block;
+
+/* The base polygon is inscribed in the ellipse of the diameters; the top one is shifted against it. */
+typedef struct prism {
+  pnt_3d center;
+  double diameter_x, diameter_y, height;
+  double shift_x, shift_y;
+  int32_t sectors;
+  double axis_x, axis_y, axis_z;
+} prism;
+
+/* Truncated unless a diameter is 0. */
+typedef struct cone {
+  int32_t host_word;
+  pnt_3d center;
+  double bottom_diameter, top_diameter, height;
+  int32_t sectors;
+  double axis_x, axis_y, axis_z;
+} cone;
+
+typedef struct cylinder {
+  int32_t host_word;
+  pnt_3d center;
+  double diameter_x, diameter_y, height;
+  int32_t sectors;
+  double axis_x, axis_y, axis_z;
+} cylinder;
+
+/* A hollow cylinder. */
+typedef struct hcylinder {
+  int32_t host_word;
+  pnt_3d center;
+  double outer_x, outer_y, inner_x, inner_y, height;
+  int32_t sectors;
+  double axis_x, axis_y, axis_z;
+} hcylinder;
+
+/* Its diameters are twice the semi-axes; bottom and top cut it, measured from the centre. */
+typedef struct hyperboloid {
+  int32_t host_word;
+  pnt_3d center;
+  double diameter_x, diameter_y, diameter_z;
+  double bottom, top;
+  int32_t sectors, stacks;
+  double axis_x, axis_y, axis_z;
+} hyperboloid;
+
+/* The diameters are those of its rim. */
+typedef struct paraboloid {
+  pnt_3d center;
+  double diameter_x, diameter_y, height;
+  int32_t sectors, stacks;
+  double axis_x, axis_y, axis_z;
+} paraboloid;
+
+typedef struct pyramid {
+  pnt_3d center;
+  double size_x, size_y, height;
+  double axis_x, axis_y, axis_z;
+} pyramid;
+
+/* sectors divide the circle about the axis, tube_sectors the tube. */
+typedef struct torus {
+  int32_t host_word;
+  pnt_3d center;
+  double major_radius, minor_radius;
+  int32_t sectors, tube_sectors;
+  double axis_x, axis_y, axis_z;
+} torus;
+
+/* A profile turned about the z axis through the centre, in degrees. */
+typedef struct bodyrev {
+  pnt_3d center;
+  list_hdr *profile; /* points */
+  double start_angle, sweep_angle;
+  int32_t sectors;
+  double axis_x, axis_y, axis_z;
+} bodyrev;
+
+/* A profile moved along z. Centre and profile stand where those of bodyrev do: kx_purge_bodyrev frees both. */
+typedef struct extbody {
+  pnt_3d center;
+  list_hdr *profile; /* points */
+  double height;
+  double axis_x, axis_y, axis_z;
+} extbody;
+
+/* The five regular polyhedra: one layout. */
+typedef struct tetrahedron {
+  pnt_3d center;
+  double size;
+  double axis_x, axis_y, axis_z;
+} tetrahedron;
+
+typedef tetrahedron hexahedron;
+typedef tetrahedron octahedron;
+typedef tetrahedron dodecahedron;
+typedef tetrahedron icosahedron;
+
 #pragma pack(pop)
 
 #ifdef __cplusplus

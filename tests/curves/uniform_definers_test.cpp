@@ -23,14 +23,14 @@ const kind kinds[] = {
 
 TEST(uniform_definers, write_the_basis_and_take_over_the_items) {
   for (const kind &k : kinds) {
-    list_hdr *list = points(KX_POLY_2D, 6), *solid = points(KX_POLY_3D, 6);
+    list_hdr *list = points(KX_POLY_2D, 6), *in_space = points(KX_POLY_3D, 6);
     const list_hdr before = *list;
-    const owner c{uniform(k.plane, 5)}, s{k.space(solid)};  // the first one's points are freed now
+    const owner c{uniform(k.plane, 5)}, s{k.space(in_space)};  // the first one's points are freed now
     EXPECT_EQ(k.plane(list, c), 0);
     EXPECT_TRUE(c->curve_type == k.code && s->curve_type == k.code + 1 && c->degree == (k.code == 85 ? 5 : 0));
     EXPECT_EQ(std::memcmp(c->ctrl_pnts, &before, sizeof before), 0);
     EXPECT_TRUE(!list->head && !list->tail && !list->current);
-    EXPECT_TRUE(list->count == k.left_count && solid->count == k.left_count);
+    EXPECT_TRUE(list->count == k.left_count && in_space->count == k.left_count);
     double basis[16];
     std::memcpy(basis, c->basis, sizeof basis);
     EXPECT_EQ(std::memcmp(basis, s->basis, sizeof basis), 0);
@@ -44,7 +44,7 @@ TEST(uniform_definers, write_the_basis_and_take_over_the_items) {
     EXPECT_TRUE(k.plane(list, c) == 0 && c->ctrl_pnts->count == 0);          // an empty list now, whatever its count
     EXPECT_TRUE(k.plane(nullptr, c) == 40 && k.plane(list, nullptr) == 40);
     EXPECT_TRUE(!k.space(nullptr) && !k.dispatch(nullptr));
-    EXPECT_EQ(ll_purge_list(list) + ll_purge_list(solid), 0);
+    EXPECT_EQ(ll_purge_list(list) + ll_purge_list(in_space), 0);
   }
   for (int n : {0, 1, 2, 31, 32, 40}) {
     const owner c{uniform(kx_def_ubezier_curve2d, n)};

@@ -1,4 +1,5 @@
-// The direction from one point to another, as a pseudo-angle for comparing and as an angle.
+// The direction from one point to another, as a pseudo-angle for comparing and as an angle; and the vector record that
+// holds it.
 #pragma once
 
 #include <cmath>
@@ -27,5 +28,12 @@ inline double angle_of_pseudo(double pseudo, double quarter, double per_radian) 
 
 inline double degrees_of_pseudo(double pseudo) { return angle_of_pseudo(pseudo, 90.0, degrees_per_radian); }
 inline double direction_degrees(vec2 from, vec2 to) { return degrees_of_pseudo(pseudo_angle(from, to)); }
+
+// The angle that the direction field holds: of i and j, in degrees counter-clockwise from x; 0 when upright.
+inline double azimuth(vec3 v) { return direction_degrees({0.0, 0.0}, {v.x, v.y}); }
+
+// A vector record with all its fields.
+inline vector_3d whole_record(vec3 v, double len) { return {azimuth(v), len, v.x, v.y, v.z}; }
+inline vector_3d whole_record(vec3 v) { return whole_record(v, length(v)); }
 
 }  // namespace kx
