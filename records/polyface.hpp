@@ -54,14 +54,19 @@ bool visit_inline_ring(const polyface_3d &face, F visit) {
   return true;
 }
 
+// Whether an item may hold a record of a kind: it says so, or bears a tag of the host's own.
+inline bool may_hold(const list_item &item, std::int32_t tag) {
+  return item.data && (item.datatype == tag || (record_size(item.datatype) == 0 && item.datatype != KX_STRING));
+}
+
 // An item's face; null when it holds something else.
 inline polyface_3d *face_of(const list_item &item) {
-  return readable_as(item, KX_POLYFACE_3D) ? static_cast<polyface_3d *>(item.data) : nullptr;
+  return may_hold(item, KX_POLYFACE_3D) ? static_cast<polyface_3d *>(item.data) : nullptr;
 }
 
 // An item's vertex; null when it holds something else.
 inline const poly_3d *vertex_of(const list_item &item) {
-  return readable_as(item, KX_POLY_3D) ? static_cast<const poly_3d *>(item.data) : nullptr;
+  return may_hold(item, KX_POLY_3D) ? static_cast<const poly_3d *>(item.data) : nullptr;
 }
 
 // Frees what hangs from more_vertices; the header stays.
