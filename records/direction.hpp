@@ -17,11 +17,13 @@ inline double pseudo_angle(vec2 from, vec2 to) { return pseudo_angle(to.x - from
 // and never past the quarter it lies in, although the unit's constants have eleven digits. 0 when it is not finite;
 // whole turns too many are taken off.
 inline double angle_of_pseudo(double pseudo, double quarter, double per_radian) {
-  if (!std::isfinite(pseudo)) return 0.0;
-  pseudo = std::fmod(pseudo, 4.0);
-  if (pseudo < 0.0) pseudo += 4.0;
-  if (pseudo >= 4.0) return 0.0;
-  const double quarters = std::floor(pseudo);
+  if (!(pseudo >= 0.0 && pseudo < 4.0)) [[unlikely]] {
+    if (!std::isfinite(pseudo)) return 0.0;
+    pseudo = std::fmod(pseudo, 4.0);
+    if (pseudo < 0.0) pseudo += 4.0;
+    if (pseudo >= 4.0) return 0.0;
+  }
+  const double quarters = static_cast<int>(pseudo);
   const double rest = 2.0 * std::atan(pseudo - quarters) * per_radian;
   return quarter * quarters + (rest < quarter ? rest : quarter);
 }

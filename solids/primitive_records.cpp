@@ -2,4 +2,4 @@
 #include "kxgeom/solids.h"
 #include "records/primitive.hpp"
 
-void KX_CALL kx_purge_bodyrev(void *record) { kx::purge_bodyrev(record); }
+void KX_CALL kx_purge_bodyrev(bodyrev *record) { kx::purge_bodyrev(record); }

@@ -1231,8 +1231,8 @@ KX_API void KX_CALL kx_clear_polyface_3d(polyface_3d *face);
 /**
  * Makes a face anew: every other field 0, both lists null (those it had are not freed), its ring in the slots.
  * @param[in] face_number,vertex_count  stored as they are
- * @param[in] numbers  vertex_count vertex numbers in ring order
- * @param[in] attributes  vertex_count attributes, one for each edge; null for all 0
+ * @param[in] numbers[vertex_count]  vertex numbers in ring order
+ * @param[in] attributes[vertex_count]  one for each edge; null for all 0
  * @param[in] normal  the normal, stored as it is; null for the zero vector
  * @param[out] face  the face; as it was unless the result is 0
  * @return 0; 1 for a null face; 2 for a ring longer than KX_RING_MOST, or without numbers
@@ -1244,8 +1244,8 @@ KX_API int32_t KX_CALL kx_set_polyface_3d(int32_t face_number, int32_t vertex_co
  * Reads a face: the first four numbers and attributes from the record, the fifth and later numbers from more_vertices,
  * whose position ends at its head. Outputs may be null.
  * @param[out] face_number,vertex_count,normal  the fields
- * @param[out] numbers  vertex_count numbers, as many as there are
- * @param[out] attributes  at most four
+ * @param[out] numbers[26]  vertex_count numbers, as many as there are; a longer ring needs more room
+ * @param[out] attributes[4]  one for each of the first four numbers
  * @param[in] face  the face
  * @return 0; 1 for a null face, nothing written; 2 when more_vertices ends early
  */
@@ -1284,8 +1284,8 @@ KX_API int32_t KX_CALL kx_get_face_normal(int32_t a, int32_t b, int32_t c, list_
  * Moves the position of a face list and reads the face there, its ring from the slots. Outputs may be null.
  * @param[in,out] faces  polyface_3d items; the face read is current
  * @param[out] face_number,vertex_count,normal  the fields
- * @param[out] numbers  vertex_count numbers
- * @param[out] attributes  four; in a longer ring they hold the fifth to eighth number
+ * @param[out] numbers[26]  vertex_count numbers; a longer ring needs more room
+ * @param[out] attributes[4]  in a ring of more than four they hold the fifth and later numbers
  * @param[in] position  as for ll_set_list_currpntr; 0 for any other code
  * @return 1; 0, nothing written, for a null or empty list and for an item that is no face
  */
@@ -1296,9 +1296,9 @@ KX_API int32_t KX_CALL kx_get_next_face_loc(list_hdr *faces, int32_t *face_numbe
  * Finds a face by its number and reads it, its ring from the slots. Outputs may be null.
  * @param[in] faces  polyface_3d items
  * @param[in] face_number  the number sought
- * @param[out] normal  three doubles: i, j and k
- * @param[out] attributes  four, as for kx_get_next_face_loc
- * @param[out] numbers  the face's vertex_count numbers
+ * @param[out] normal[3]  i, j and k
+ * @param[out] attributes[4]  as for kx_get_next_face_loc
+ * @param[out] numbers[26]  as for kx_get_next_face_loc
  * @return 1, also when no face bears the number, and nothing is written; 0 for a null or empty list and when the search
  *   meets an item that is no face
  */
@@ -1317,7 +1317,7 @@ KX_API int32_t KX_CALL kx_get_facevertex(const list_hdr *vertices, int32_t numbe
 /**
  * Collects the records of a vertex list from head to tail.
  * @param[in,out] vertices  the list; its position ends at the head
- * @param[out] records  one pointer for each item, still the list's; one null for an empty list
+ * @param[out] records[vertices+1]  one pointer for each item, still the list's; one null for an empty list
  * @return the number of pointers written; 0 for null arguments
  */
 KX_API int32_t KX_CALL kx_get_vertex_list(list_hdr *vertices, void **records);
@@ -1407,7 +1407,7 @@ KX_API void *KX_CALL kx_copy_solid_data(int32_t solid_type, const void *record);
 /**
  * Appends a face as kx_set_polyface_3d makes it, its normal that of its first three vertex numbers
  * (kx_get_face_normal), the zero vector when they are not all there. A solid without a face list gets one.
- * @param[in] face_number,numbers,attributes,vertex_count  the face
+ * @param[in] face_number,numbers[vertex_count],attributes[vertex_count],vertex_count  the face
  * @param[in,out] s  the solid; face_count grows by one, the face is current, the position of the vertices is at the
  * head
  * @return 1; 0, the solid unchanged, for a null solid, a ring that kx_set_polyface_3d refuses and after a memory
@@ -1514,8 +1514,8 @@ KX_API int32_t KX_CALL kx_build_surface_face_list(int32_t columns, int32_t rows,
  * in the vertex list (counted on from the head past the end), and its normal. Outputs may be null.
  * @param[in] s  the surface; the last corner is the current vertex
  * @param[in] face_number  the number
- * @param[out] pnts  the corners
- * @param[out] normal  three doubles: i, j and k
+ * @param[out] pnts[26]  the corners; a longer ring needs more room
+ * @param[out] normal[3]  i, j and k
  * @return the current face's vertex_count, also when its number is another one and nothing is written; 0 for a null
  *   surface, one without faces, a number below 0 or above the number of faces
  */

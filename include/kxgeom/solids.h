@@ -17,9 +17,9 @@ extern "C" {
 
 /**
  * Frees the record of a body of revolution or of an extruded body, with its profile.
- * @param[in] record  a bodyrev or an extbody; null does nothing
+ * @param[in] record  the record, an extbody as well: both begin alike; null does nothing
  */
-KX_API void KX_CALL kx_purge_bodyrev(void *record);
+KX_API void KX_CALL kx_purge_bodyrev(bodyrev *record);
 
 /* ---- mesh file ---- */
 

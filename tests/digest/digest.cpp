@@ -19,7 +19,8 @@ int main() {
                                                              {"transform", transform},
                                                              {"uniform curves", uniform_curves},
                                                              {"lists of samples", lists_of_samples},
-                                                             {"non-uniform curves", nonuniform_curves}};
+                                                             {"non-uniform curves", nonuniform_curves},
+                                                             {"solids", solids}};
   for (const auto &[name, run] : subsystems) {
     restart();
     run();

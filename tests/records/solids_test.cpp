@@ -122,7 +122,7 @@ TEST(solids, setting_takes_items_over_and_getting_lends_them) {
   EXPECT_TRUE(s->face_list->count == 0 && s->vertex_list->head == nullptr && kx_get_solid_data(s) == nullptr);
   EXPECT_TRUE(kx_get_solid_data(nullptr) == nullptr &&
               kx_get_solid(&type, nullptr, nullptr, box, box, box, box, box, box, &f, &v, nullptr) == nullptr);
-  kx_purge_bodyrev(data);
+  kx_purge_bodyrev(static_cast<bodyrev *>(data));
   other->solid_data = nullptr;
   EXPECT_EQ(kx_purge_solid(s) + kx_purge_solid(other) + kx_init_solid(nullptr), 0);
 }

@@ -33,7 +33,7 @@ bytes content() {
 
 void write(const bytes &b) {
   std::FILE *f = std::fopen(path.c_str(), "wb");
-  std::fwrite(b.data(), 1, b.size(), f);
+  if (!b.empty()) std::fwrite(b.data(), 1, b.size(), f);
   std::fclose(f);
 }
 

@@ -53,7 +53,7 @@ namespace {
 constexpr std::int32_t point_tags[] = {KX_PNT_2D, KX_PNT_3D, KX_POLY_2D, KX_POLY_3D};
 constexpr std::int32_t all_tags[] = {KX_PNT_2D,         KX_PNT_3D,         KX_POLY_2D,     KX_POLY_3D,
                                      KX_CURVE_STATS_2D, KX_CURVE_STATS_3D, KX_MATRIXREC2D, KX_MATRIXREC3D,
-                                     KX_RNUMBER,        KX_INUMBER,        KX_STRING};
+                                     KX_RNUMBER,        KX_INUMBER,        KX_STRING,      KX_POLYFACE_3D};
 
 template <class T>
 std::pair<void *, const std::vector<field> *> made(draw &d) {
@@ -73,6 +73,7 @@ std::pair<void *, const std::vector<field> *> new_data(std::int32_t tag, draw &d
     case KX_MATRIXREC3D: return made<matrixrec3d>(d);
     case KX_RNUMBER: return made<rnumber>(d);
     case KX_INUMBER: return made<inumber>(d);
+    case KX_POLYFACE_3D: return made<polyface_3d>(d);
   }
   void *text = new_block(8);
   std::memcpy(text, "text", 5);
@@ -103,6 +104,8 @@ list_hdr *usual_list(std::string_view name, draw &d) {
   if (name == "knots") return numbers(7 + d.below(6), true, d);
   if (name == "weights") return numbers(6 + d.below(4), false, d);
   if (name == "store") return list_of(d.below(2) ? KX_MATRIXREC2D : KX_MATRIXREC3D, 2 + d.below(4), d);
+  if (name == "faces") return list_of(KX_POLYFACE_3D, 2 + d.below(4), d);
+  if (name == "vertices") return list_of(KX_POLY_3D, 3 + d.below(4), d);
   return list_of(point_tags[d.below(4)], 4 + d.below(5), d);
 }
 
@@ -216,6 +219,36 @@ void values<curve **>::make(const request &r, draw &, slot &s) {
   s.set(r.special < 0 ? static_cast<curve **>(std::memset(new_block(bytes), 0, bytes)) : nullptr);
 }
 
+// Null, a new one, each field special.
+int values<solid *>::specials(const parameter &) { return 2 + field_specials(fields_of<solid>()); }
+void values<solid *>::make(const request &r, draw &d, slot &s) {
+  solid *made = r.special == 0 ? nullptr : kx_create_solid();
+  s.set(made);
+  if (r.special == 0 || r.special == 1) return;
+  for (std::int32_t i = 0; i < 4; ++i) {
+    const pnt_3d p = {d.number(), d.number(), d.number()};
+    const std::int32_t ring[] = {i % 4, (i + 1) % 4, (i + 2) % 4, 0};
+    kx_add_vertex(made, i, &p, 1);
+    kx_add_face(i, ring, ring, 3, made);
+  }
+  made->solid_type = KX_SOLID_SPHERE;
+  made->solid_data = new_records<sphere>(1, d);
+  if (r.special > 1) make_special(fields_of<solid>(), made, r.special - 2);
+}
+
+int values<surface *>::specials(const parameter &) { return 2 + field_specials(fields_of<surface>()); }
+void values<surface *>::make(const request &r, draw &d, slot &s) {
+  surface *made = r.special == 0 ? nullptr : kx_create_surface();
+  s.set(made);
+  if (r.special == 0 || r.special == 1) return;
+  made->control_points = list_of(point_tags[d.below(4)], 4, d);
+  made->vertices = list_of(KX_POLY_3D, 9, d);
+  made->faces = ll_create_list();
+  kx_build_surface_face_list(3, 3, made->faces, made->vertices);
+  made->steps_u = made->steps_v = 2;
+  if (r.special > 1) make_special(fields_of<surface>(), made, r.special - 2);
+}
+
 int values<curv *>::specials(const parameter &) { return 1; }
 void values<curv *>::make(const request &r, draw &, slot &s) { s.set(r.special < 0 ? kx_create_curv() : nullptr); }
 
@@ -244,7 +277,7 @@ void values<char *>::make(const request &r, draw &d, slot &s) {
 int values<void *>::specials(const parameter &) { return 1; }
 void values<void *>::make(const request &r, draw &, slot &s) {
   const bool file = std::string_view(r.of->name) == "file";
-  s.set(r.special < 0 && !file ? new_block(64) : nullptr);
+  s.set(r.special < 0 && !file ? new_block(128) : nullptr);
 }
 
 int values<void **>::specials(const parameter &) { return 1; }

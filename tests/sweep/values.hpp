@@ -170,6 +170,8 @@ SWEEP_SPECIAL_TYPE(list_hdr *);
 SWEEP_SPECIAL_TYPE(list_hdr **);
 SWEEP_SPECIAL_TYPE(curve *);
 SWEEP_SPECIAL_TYPE(curve **);
+SWEEP_SPECIAL_TYPE(solid *);
+SWEEP_SPECIAL_TYPE(surface *);
 SWEEP_SPECIAL_TYPE(curv *);
 SWEEP_SPECIAL_TYPE(char *);
 SWEEP_SPECIAL_TYPE(void *);
@@ -183,6 +185,10 @@ template <>
 struct values<const list_hdr *> : values<list_hdr *> {};
 template <>
 struct values<const curve *> : values<curve *> {};
+template <>
+struct values<const solid *> : values<solid *> {};
+template <>
+struct values<const surface *> : values<surface *> {};
 template <>
 struct values<const char *> : values<char *> {};
 template <>
