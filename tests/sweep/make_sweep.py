@@ -8,15 +8,16 @@ import re
 import sys
 
 
-def flat_fields(record, records, prefix=""):
-    """Every double and int32_t of a record, those of records in it too, as C expressions of the member."""
+def flat_fields(record, records, base="0"):
+    """The place of every double and int32_t of a record as a C expression, those of records in it and of arrays too."""
     for field in record.fields:
+        start = f"{base} + offsetof({record.name}, {field.name})"
         for i in range(field.count):
-            name = prefix + field.name + (f"[{i}]" if field.count > 1 else "")
+            place = start + (f" + {i} * sizeof({field.type})" if field.count > 1 else "")
             if field.type in ("double", "int32_t"):
-                yield name, field.type == "double"
+                yield place, field.type == "double"
             elif field.type in records:
-                yield from flat_fields(records[field.type], records, name + ".")
+                yield from flat_fields(records[field.type], records, place)
 
 
 def length(parameter, names):
@@ -39,8 +40,7 @@ def main():
     lines = ['#include "sweep.hpp"', "", "namespace sweep {", ""]
     layouts = {"double": "{0, true}", "int32_t": "{0, false}"}
     for record in records:
-        layouts[record.name] = ", ".join(f"{{offsetof({record.name}, {name}), {str(real).lower()}}}"
-                                         for name, real in flat_fields(record, by_name))
+        layouts[record.name] = ", ".join(f"{{{place}, {str(real).lower()}}}" for place, real in flat_fields(record, by_name))
     for name, fields in layouts.items():
         lines += ["template <>", f"const std::vector<field> &fields_of<{name}>() {{",
                   f"  static const std::vector<field> all = {{{fields}}};", "  return all;", "}"]
