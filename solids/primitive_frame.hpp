@@ -1,46 +1,76 @@
-// How every primitive begins: an empty solid with its two lists and the primitive's record.
+// What every primitive has in common: an empty solid with its two lists and the primitive's record, vertices and faces,
+// and the turn into its orientation.
 #pragma once
 
 #include <cstdint>
 
 #include "kxgeom/list.h"
 #include "kxgeom/records.h"
+#include "kxgeom/solids.h"
 #include "records/primitive.hpp"
 #include "records/solid_builder.hpp"
+#include "solids/extents.hpp"
+#include "solids/ring.hpp"
 
 namespace kx {
 
-template <class T>
-struct primitive_frame {
-  solid *body;  // null when it could not be made
-  T *data;      // hangs from the solid already
+struct primitive_kind {
+  std::int32_t solid_type;
+  const char *builder, *record;  // their functions, for the memory messages
 };
 
-// Empties the solid given, or creates one, and hangs two empty lists and a new record on it. Without memory a new solid
-// is freed and a given one left empty, without lists; the body is null then, after the memory messages: that of the
-// record or list, and for a new solid that of the builder too.
-template <class T>
-primitive_frame<T> begin_primitive(solid *given, std::int32_t solid_type, const char *builder, const char *record) {
+// Frees the lists and the record of a solid; a new one altogether.
+inline void abandon_primitive(solid *body, bool given) {
+  dispose_list(body->face_list);
+  dispose_list(body->vertex_list);
+  purge_primitive(body->solid_type, body->solid_data);
+  body->face_list = body->vertex_list = nullptr;
+  body->solid_data = nullptr;
+  if (!given) release(body);
+}
+
+// A primitive in the orientation that its builder was given: as it is when the vector's fields direction and length are
+// both 0, whatever its components are, or when it is null.
+inline solid *oriented(solid *body, const vector_3d *orientation) {
+  if (orientation == nullptr || (near_zero(orientation->direction) && near_zero(orientation->length))) return body;
+  return kx_transform_solid_vector(body, orientation);
+}
+
+// Builds a primitive into the solid given, which is cleared first, or into a new one when that is null:
+//
+//   build(solid &body, T &record, solid_builder &parts) -> bool
+//
+// fills in the record (its axis is z already), the counts and the extents, which are 0, and appends vertices and faces.
+// It stops with false when a part cannot be created: the part-built solid is the result all the same, hosts draw what
+// there is of it. `vertices` is how many it makes at most. The solid is then turned into its orientation.
+//
+// Null, a given solid untouched, for more than KX_SOLID_VERTICES_MOST vertices or no centre; null, a given solid empty,
+// without lists, after a memory message.
+template <class T, class Build>
+solid *build_primitive(const primitive_kind &kind, std::int64_t vertices, const pnt_3d *center,
+                       const vector_3d *orientation, solid *given, Build build) {
+  if (center == nullptr || vertices > KX_SOLID_VERTICES_MOST) return nullptr;
   solid *body = given ? given : kx_create_solid();
   if (body == nullptr) {
-    report_no_memory(builder);
-    return {nullptr, nullptr};
+    report_no_memory(kind.builder);
+    return nullptr;
   }
   if (given) kx_clear_solid(body);
   *body = {};
+  body->solid_type = kind.solid_type;
   body->face_list = ll_create_list();
   body->vertex_list = body->face_list ? ll_create_list() : nullptr;
-  T *data = body->vertex_list ? create_primitive<T>(record) : nullptr;
-  if (data) {
-    body->solid_type = solid_type;
-    body->solid_data = data;
-    return {body, data};
+  T *record = body->vertex_list ? create_primitive<T>(kind.record) : nullptr;
+  body->solid_data = record;
+  if (record) {
+    if (solid_builder parts(*body, vertices); parts) {
+      build(*body, *record, parts);
+      return oriented(body, orientation);
+    }
+    report_no_memory(kind.builder);
   }
-  ll_purge_list(body->face_list);
-  ll_purge_list(body->vertex_list);
-  body->face_list = body->vertex_list = nullptr;
-  if (given == nullptr) release(body);
-  return {nullptr, nullptr};
+  abandon_primitive(body, given != nullptr);
+  return nullptr;
 }
 
 }  // namespace kx

@@ -1,7 +1,17 @@
 /* Solids: primitives built as vertices and faces, and the mesh file.
  *
- * A primitive is built about the z axis at its centre and turned afterwards. Vertices are numbered from 0 in list
- * order.
+ * A builder (kx_..._pnts) fills the solid given, after kx_clear_solid, or a new one, freed by kx_purge_solid, when that
+ * is null. Each body is closed: every edge is in two faces, which run through it in opposite directions. For positive
+ * sizes every ring turns counter-clockwise for one who looks at the face from outside. A face's normal is that of
+ * kx_get_face_normal for its first three vertices, its attributes are 0 unless said otherwise. Vertices are numbered
+ * from 0 in list order. Sizes are not checked: zero, negative and NaN sizes give degenerate bodies.
+ *
+ * A primitive is built about the z axis at its centre and, if the fields direction and length of its orientation are
+ * not both within 1e-7 of 0, turned by kx_transform_solid_vector. The record of the primitive hangs from solid_data.
+ *
+ * A builder returns null, a given solid untouched, without a centre or for more than KX_SOLID_VERTICES_MOST vertices;
+ * and null, a given solid empty and without lists, after a memory message. When the memory ends while the body grows,
+ * the part-built solid is the result, after the message.
  */
 #ifndef KXGEOM_SOLIDS_H
 #define KXGEOM_SOLIDS_H
@@ -12,6 +22,180 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/* ---- turning ---- */
+
+/**
+ * Turns a solid by the shortest way that takes the z axis to the direction (i, j, k) of a vector: about the centre that
+ * its primitive's record names, or about that of its extents when it has none. A vector along -z is a half turn about
+ * the x axis. Vertices are moved; each face's normal is that of kx_get_face_normal for the moved vertices (a face whose
+ * first three vertices are not there has its normal turned); the extents become the least box around the vertices; the
+ * axis in the primitive's record is turned. Distances are kept. A vector along +z leaves all as it is.
+ * @param[in,out] s  the solid
+ * @param[in] vector  its i, j and k are read, in any length; shorter than 1e-7, not finite or null it leaves the solid
+ *   as it is
+ * @return s
+ */
+KX_API solid *KX_CALL kx_transform_solid_vector(solid *s, const vector_3d *vector);
+
+/* ---- rings and caps ---- */
+
+/**
+ * Appends the corners of a regular polygon, counter-clockwise seen from above, to a vertex list.
+ * @param[in] center  its centre; all corners are at its z
+ * @param[in] radius  distance of the corners from the centre
+ * @param[in] n  number of corners; none for less than 1 or more than KX_SOLID_VERTICES_MOST
+ * @param[in,out] vertex_number  number of the first corner, afterwards the next one that is free; null counts from 0
+ * @param[in] start_deg  angle of the first corner from the x axis
+ * @param[in,out] vertices  the list (poly_3d); null, as a null centre, appends nothing
+ * @return the next free vertex number; when the memory ends, after the message, that of the corner that is missing
+ */
+KX_API int32_t KX_CALL kx_regpolyxyzpnts(const pnt_3d *center, double radius, int32_t n, int32_t *vertex_number,
+                                         double start_deg, list_hdr *vertices);
+
+/**
+ * Appends points of the ellipse inscribed in a rectangle, counter-clockwise seen from above, to a vertex list: those of
+ * a regular polygon on a circle, stretched to the ellipse.
+ * @param[in] rect  the rectangle, sides along x and y
+ * @param[in] z  height of all points
+ * @param[in] n  number of points; none for less than 1 or more than KX_SOLID_VERTICES_MOST
+ * @param[in,out] vertex_number  number of the first point, afterwards the next one that is free; null counts from 0
+ * @param[in] start_deg  angle of the first point on the circle from the x axis
+ * @param[in,out] vertices  the list (poly_3d); null, as a null rectangle, appends nothing
+ * @return the next free vertex number; when the memory ends, after the message, that of the point that is missing
+ */
+KX_API int32_t KX_CALL kx_ellipsexyzpnts(const rect_2d *rect, double z, int32_t n, int32_t *vertex_number,
+                                         double start_deg, list_hdr *vertices);
+
+/**
+ * Appends the triangles between a centre and a ring of vertices numbered onwards from it to a face list: (c, c + 1 + i,
+ * c + 2 + i) and last (c, c + n, c + 1), or with the other two exchanged. The attributes of each are 1, 0, 1, 0: 1 on
+ * the edges that meet the centre.
+ * @param[in,out] face_number  number of the first triangle, afterwards the next one that is free; null counts from 0
+ * @param[in] n  number of triangles; none for less than 1
+ * @param[in] center  vertex number c of the centre
+ * @param[in] flag  0: in the order of the ring; otherwise reversed
+ * @param[in] vertices  list of the vertices (poly_3d), for the normals
+ * @param[in,out] faces  the list (polyface_3d)
+ * @return the next free face number; 1 when a face cannot be created, after the message and with face_number up to
+ *   there, and 1 for a null list or n above KX_SOLID_VERTICES_MOST
+ */
+KX_API int32_t KX_CALL kx_arc_faces(int32_t *face_number, int32_t n, int32_t center, int32_t flag,
+                                    const list_hdr *vertices, list_hdr *faces);
+
+/* ---- block cylinder torus ---- */
+
+/**
+ * Builds a block: 8 vertices, 6 faces numbered from 1. Its extents are the centre minus and plus half of each size.
+ * @param[in] center  its centre
+ * @param[in] size_x,size_y,size_z  its sizes before the turn
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_block_pnts(const pnt_3d *center, double size_x, double size_y, double size_z,
+                                    const vector_3d *orientation, solid *given);
+
+/**
+ * Builds a cylinder of circular or elliptic section: 3n faces numbered from 0 on 2n + 2 vertices. Each cap is a fan of
+ * triangles about its centre, as from kx_arc_faces, and counts as one face in face_count, n + 2; vertex_count, 2n, is
+ * without the two centres. The extents are the centre minus and plus half of each size.
+ * @param[in] center  its centre
+ * @param[in] diameter_x,diameter_y  its diameters before the turn
+ * @param[in] height  its height
+ * @param[in,out] sectors  number n of sides; raised to 3 for equal diameters, otherwise to the next multiple of 4, 4 at
+ *   least; null builds nothing
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top, sectors unchanged then unless the memory ended
+ */
+KX_API solid *KX_CALL kx_cylinder_pnts(const pnt_3d *center, double diameter_x, double diameter_y, double height,
+                                       int32_t *sectors, const vector_3d *orientation, solid *given);
+
+/**
+ * Builds a torus: p*q vertices and as many faces, numbered from 0, in p rings of q. The larger radius is that of the
+ * axis circle. The middle of the tube is at the height z = 2y of the centre's y. The extents are given about the
+ * centre, x from center - larger + smaller on.
+ * @param[in] center  its centre
+ * @param[in] radius_1,radius_2  radii of axis circle and tube, in any order
+ * @param[in] p  sectors of the axis circle, raised to 3
+ * @param[in] q  sectors of the tube, raised to 3
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_torus_pnts(const pnt_3d *center, double radius_1, double radius_2, int32_t p, int32_t q,
+                                    const vector_3d *orientation, solid *given);
+
+/* ---- regular polyhedra ---- */
+
+/**
+ * Builds a tetrahedron: 4 vertices, 4 faces. With k half the square of the size, its base is a regular triangle with
+ * corners at the distance k from the axis, its height is k. The extents are the least box around the vertices, as for
+ * all five.
+ * @param[in] center  its centre
+ * @param[in] size  its size
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_tetrahedron_pnts(const pnt_3d *center, double size, const vector_3d *orientation,
+                                          solid *given);
+
+/**
+ * Builds a cube: 8 vertices, 6 faces, in the order of kx_block_pnts but with faces numbered from 0.
+ * @param[in] center  its centre
+ * @param[in] size  length of its edges
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_hexahedron_pnts(const pnt_3d *center, double size, const vector_3d *orientation, solid *given);
+
+/**
+ * Builds an octahedron: 6 vertices, 8 faces. Two vertices stand half the size above and below the centre, four on the
+ * corners of a level square with edges of that size: flatter than the regular one.
+ * @param[in] center  its centre
+ * @param[in] size  its size
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_octahedron_pnts(const pnt_3d *center, double size, const vector_3d *orientation, solid *given);
+
+/**
+ * Builds a regular dodecahedron: 20 vertices in four level rings, 12 faces of five vertices, two of them level.
+ * @param[in] center  its centre
+ * @param[in] size  length of its edges
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_dodecahedron_pnts(const pnt_3d *center, double size, const vector_3d *orientation,
+                                           solid *given);
+
+/**
+ * Builds a regular icosahedron: 12 vertices, 20 faces, a vertex on top and one at the bottom.
+ * @param[in] center  its centre
+ * @param[in] size  length of its edges
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_icosahedron_pnts(const pnt_3d *center, double size, const vector_3d *orientation,
+                                          solid *given);
+
+/**
+ * Builds one of the five, as its own builder does.
+ * @param[in] kind  0 tetrahedron, 1 hexahedron, 2 octahedron, 3 dodecahedron, 4 icosahedron
+ * @param[in] center  its centre
+ * @param[in] size  its size
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top, and, a given solid untouched, for another kind
+ */
+KX_API solid *KX_CALL kx_regpolyhedronpnts(int32_t kind, const pnt_3d *center, double size,
+                                           const vector_3d *orientation, solid *given);
 
 /* ---- primitive records ---- */
 

@@ -261,6 +261,9 @@ enum {
   KX_SOLID_HYPERBOLOID2S = 22
 };
 
+/* The most vertices of a body that the library builds, and the most of a ring or cap. */
+enum { KX_SOLID_VERTICES_MOST = 4000000 };
+
 /* A closed body: numbered vertices, faces that name them by number, and the record of the primitive it came from. */
 typedef struct solid {
   int32_t solid_type; /* 0 when unset */

@@ -1,0 +1,38 @@
+// The turn of a finished solid into its orientation.
+#pragma once
+
+#include <cmath>
+
+#include "records/vector.hpp"
+
+namespace kx {
+
+// The shortest turn that takes the z axis to a direction: z leans towards a direction of the x-y plane, and what is
+// square to both stays.
+class lean {
+ public:
+  // To the direction (i, j, k); no turn when that has no direction or is not finite. To -z it is the half turn about x.
+  explicit lean(const vector_3d &v) {
+    const double flat = std::hypot(v.i, v.j), len = std::hypot(flat, v.k);
+    if (!(len > tolerance) || !std::isfinite(len)) return;
+    s_ = flat / len;
+    c_ = v.k / len;
+    if (flat > 0.0) toward_ = {v.i / flat, v.j / flat};
+  }
+
+  bool is_turn() const { return s_ != 0.0 || c_ < 0.0; }
+
+  // How far the turn about the origin moves a point: exactly 0 without a turn.
+  vec3 shift(vec3 p) const {
+    const double along = dot(vec2{p.x, p.y}, toward_);
+    const double moved = (c_ - 1.0) * along + s_ * p.z;
+    return {moved * toward_.x, moved * toward_.y, (c_ - 1.0) * p.z - s_ * along};
+  }
+  vec3 operator()(vec3 v) const { return v + shift(v); }
+
+ private:
+  double s_ = 0.0, c_ = 1.0;
+  vec2 toward_ = {0.0, 1.0};
+};
+
+}  // namespace kx
