@@ -205,6 +205,253 @@ KX_API solid *KX_CALL kx_regpolyhedronpnts(int32_t kind, const pnt_3d *center, d
  */
 KX_API void KX_CALL kx_purge_bodyrev(bodyrev *record);
 
+/**
+ * Makes the record of a block, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_block; null after the memory message
+ *   "kx_create_block"
+ */
+KX_API block *KX_CALL kx_create_block(void);
+
+/**
+ * Stores the values of a block, word for word.
+ * @param[in] size_x,size_y,size_z,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_block(const pnt_3d *center, double size_x, double size_y, double size_z, double axis_x,
+                                 double axis_y, double axis_z, block *rec);
+
+/**
+ * Reads the fields of a block.
+ * @param[out] center,size_x,size_y,size_z,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is
+ * passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_block(pnt_3d *center, double *size_x, double *size_y, double *size_z, double *axis_x,
+                                 double *axis_y, double *axis_z, const block *rec);
+
+/**
+ * Frees the record of a block.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_block(block *rec);
+
+/**
+ * Makes the record of a cylinder, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_cylinder; null after the memory message
+ *   "kx_create_cylinder"
+ */
+KX_API cylinder *KX_CALL kx_create_cylinder(void);
+
+/**
+ * Stores the values of a cylinder, word for word.
+ * @param[in] host_word,diameter_x,diameter_y,height,sectors,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_cylinder(int32_t host_word, const pnt_3d *center, double diameter_x, double diameter_y,
+                                    double height, int32_t sectors, double axis_x, double axis_y, double axis_z,
+                                    cylinder *rec);
+
+/**
+ * Reads the fields of a cylinder.
+ * @param[out] host_word,center,diameter_x,diameter_y,height,sectors,axis_x,axis_y,axis_z  the fields, in their order in
+ * the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_cylinder(int32_t *host_word, pnt_3d *center, double *diameter_x, double *diameter_y,
+                                    double *height, int32_t *sectors, double *axis_x, double *axis_y, double *axis_z,
+                                    const cylinder *rec);
+
+/**
+ * Frees the record of a cylinder.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_cylinder(cylinder *rec);
+
+/**
+ * Makes the record of a torus, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_torus; null after the memory message
+ *   "kx_create_torus"
+ */
+KX_API torus *KX_CALL kx_create_torus(void);
+
+/**
+ * Stores the values of a torus, word for word.
+ * @param[in] host_word,major_radius,minor_radius,sectors,tube_sectors,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_torus(int32_t host_word, const pnt_3d *center, double major_radius, double minor_radius,
+                                 int32_t sectors, int32_t tube_sectors, double axis_x, double axis_y, double axis_z,
+                                 torus *rec);
+
+/**
+ * Reads the fields of a torus.
+ * @param[out] host_word,center,major_radius,minor_radius,sectors,tube_sectors,axis_x,axis_y,axis_z  the fields, in
+ * their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_torus(int32_t *host_word, pnt_3d *center, double *major_radius, double *minor_radius,
+                                 int32_t *sectors, int32_t *tube_sectors, double *axis_x, double *axis_y,
+                                 double *axis_z, const torus *rec);
+
+/**
+ * Frees the record of a torus.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_torus(torus *rec);
+
+/**
+ * Makes the record of a tetrahedron, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_tetrahedron; null after the memory message
+ *   "kx_create_tetrahedron"
+ */
+KX_API tetrahedron *KX_CALL kx_create_tetrahedron(void);
+
+/**
+ * Stores the values of a tetrahedron, word for word.
+ * @param[in] size,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_tetrahedron(const pnt_3d *center, double size, double axis_x, double axis_y, double axis_z,
+                                       tetrahedron *rec);
+
+/**
+ * Reads the fields of a tetrahedron.
+ * @param[out] center,size,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_tetrahedron(pnt_3d *center, double *size, double *axis_x, double *axis_y, double *axis_z,
+                                       const tetrahedron *rec);
+
+/**
+ * Frees the record of a tetrahedron.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_tetrahedron(tetrahedron *rec);
+
+/**
+ * Makes the record of a hexahedron, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_hexahedron; null after the memory message
+ *   "kx_create_hexahedron"
+ */
+KX_API hexahedron *KX_CALL kx_create_hexahedron(void);
+
+/**
+ * Stores the values of a hexahedron, word for word.
+ * @param[in] size,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_hexahedron(const pnt_3d *center, double size, double axis_x, double axis_y, double axis_z,
+                                      hexahedron *rec);
+
+/**
+ * Reads the fields of a hexahedron.
+ * @param[out] center,size,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_hexahedron(pnt_3d *center, double *size, double *axis_x, double *axis_y, double *axis_z,
+                                      const hexahedron *rec);
+
+/**
+ * Frees the record of a hexahedron.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_hexahedron(hexahedron *rec);
+
+/**
+ * Makes the record of an octahedron, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_octahedron; null after the memory message
+ *   "kx_create_octahedron"
+ */
+KX_API octahedron *KX_CALL kx_create_octahedron(void);
+
+/**
+ * Stores the values of an octahedron, word for word.
+ * @param[in] size,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_octahedron(const pnt_3d *center, double size, double axis_x, double axis_y, double axis_z,
+                                      octahedron *rec);
+
+/**
+ * Reads the fields of an octahedron.
+ * @param[out] center,size,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_octahedron(pnt_3d *center, double *size, double *axis_x, double *axis_y, double *axis_z,
+                                      const octahedron *rec);
+
+/**
+ * Frees the record of an octahedron.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_octahedron(octahedron *rec);
+
+/**
+ * Makes the record of a dodecahedron, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_dodecahedron; null after the memory message
+ *   "kx_create_dodecahedron"
+ */
+KX_API dodecahedron *KX_CALL kx_create_dodecahedron(void);
+
+/**
+ * Stores the values of a dodecahedron, word for word.
+ * @param[in] size,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_dodecahedron(const pnt_3d *center, double size, double axis_x, double axis_y, double axis_z,
+                                        dodecahedron *rec);
+
+/**
+ * Reads the fields of a dodecahedron.
+ * @param[out] center,size,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_dodecahedron(pnt_3d *center, double *size, double *axis_x, double *axis_y, double *axis_z,
+                                        const dodecahedron *rec);
+
+/**
+ * Frees the record of a dodecahedron.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_dodecahedron(dodecahedron *rec);
+
+/**
+ * Makes the record of an icosahedron, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_icosahedron; null after the memory message
+ *   "kx_create_icosahedron"
+ */
+KX_API icosahedron *KX_CALL kx_create_icosahedron(void);
+
+/**
+ * Stores the values of an icosahedron, word for word.
+ * @param[in] size,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_icosahedron(const pnt_3d *center, double size, double axis_x, double axis_y, double axis_z,
+                                       icosahedron *rec);
+
+/**
+ * Reads the fields of an icosahedron.
+ * @param[out] center,size,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_icosahedron(pnt_3d *center, double *size, double *axis_x, double *axis_y, double *axis_z,
+                                       const icosahedron *rec);
+
+/**
+ * Frees the record of an icosahedron.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_icosahedron(icosahedron *rec);
+
 /* ---- mesh file ---- */
 
 /* A mesh file holds a grid of points and its four-sided cells in records of 32 bytes, little-endian, whose first
