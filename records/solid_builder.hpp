@@ -69,24 +69,16 @@ class solid_builder {
     return face(face_number, ring.begin(), static_cast<std::int32_t>(ring.size()));
   }
   bool face(std::int32_t face_number, const std::int32_t *ring, std::int32_t n) {
-    polyface_3d record = {};
-    record.face_number = face_number;
-    if (n <= inline_corners) {
-      record.vertex_count = n;
-      for (std::int32_t i = 0; i < n; ++i) record.vertex_numbers[i] = ring[i];
-    } else if (!set_ring(record, ring, n)) {
-      return false;
-    }
-    return finish(record, ring, n);
+    polyface_3d *record = create_polyface();
+    return record && finish(record, face_number, ring, n);
   }
 
   // A face of three or four vertices with an attribute for each of its edges.
   bool face(std::int32_t face_number, std::initializer_list<std::int32_t> ring, const std::int32_t (&attributes)[4]) {
-    polyface_3d record = {};
-    record.face_number = face_number;
-    for (std::int32_t number : ring) record.vertex_numbers[record.vertex_count++] = number;
-    for (int i = 0; i < inline_corners; ++i) record.vertex_attributes[i] = attributes[i];
-    return finish(record, ring.begin(), record.vertex_count);
+    polyface_3d *record = create_polyface();
+    if (record == nullptr) return false;
+    for (int i = 0; i < inline_corners; ++i) record->vertex_attributes[i] = attributes[i];
+    return finish(record, face_number, ring.begin(), static_cast<std::int32_t>(ring.size()));
   }
 
   // Number of vertices so far, which is the number of the next one.
@@ -94,12 +86,20 @@ class solid_builder {
   vec3 point(std::int32_t number) const { return table_.at(number); }
 
  private:
-  bool finish(polyface_3d &record, const std::int32_t *ring, std::int32_t n) {
+  bool finish(polyface_3d *record, std::int32_t face_number, const std::int32_t *ring, std::int32_t n) {
+    record->face_number = face_number;
+    if (n <= inline_corners) {
+      record->vertex_count = n;
+      for (std::int32_t i = 0; i < n; ++i) record->vertex_numbers[i] = ring[i];
+    } else if (!set_ring(*record, ring, n)) {
+      release(record);
+      return false;
+    }
     vector_3d normal = {};
     if (n >= 3) table_.normal(ring[0], ring[1], ring[2], normal);
-    record.normal = normal;
-    if (append_face(*faces_, record)) return true;
-    dispose_list(record.more_vertices);
+    record->normal = normal;
+    if (append(*faces_, record, KX_POLYFACE_3D)) return true;
+    dispose_face(record);
     return false;
   }
 

@@ -29,6 +29,16 @@ inline void abandon_primitive(solid *body, bool given) {
   if (!given) release(body);
 }
 
+// A solid is cleared up to a face whose ring goes on in as many items as the solid has faces: in a whole body there are
+// more faces. A part-built one that a purge would not free altogether loses its faces.
+inline void keep_what_can_be_cleared(solid &body) {
+  const std::int32_t count = body.face_list->count;
+  for (const list_item &item : items(body.face_list)) {
+    const auto *face = static_cast<const polyface_3d *>(item.data);
+    if (item.next && std::int64_t{kx::count(face->more_vertices)} + 1 >= count) return dispose_faces(*body.face_list);
+  }
+}
+
 // A primitive in the orientation that its builder was given: as it is when the vector's fields direction and length are
 // both 0, whatever its components are, or when it is null.
 inline solid *oriented(solid *body, const vector_3d *orientation) {
@@ -64,7 +74,7 @@ solid *build_primitive(const primitive_kind &kind, std::int64_t vertices, const 
   body->solid_data = record;
   if (record) {
     if (solid_builder parts(*body, vertices); parts) {
-      build(*body, *record, parts);
+      if (!build(*body, *record, parts)) keep_what_can_be_cleared(*body);
       return oriented(body, orientation);
     }
     report_no_memory(kind.builder);
