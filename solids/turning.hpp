@@ -1,6 +1,7 @@
 // The turn of a finished solid into its orientation.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 #include "records/vector.hpp"
@@ -13,11 +14,14 @@ class lean {
  public:
   // To the direction (i, j, k); no turn when that has no direction or is not finite. To -z it is the half turn about x.
   explicit lean(const vector_3d &v) {
-    const double flat = std::hypot(v.i, v.j), len = std::hypot(flat, v.k);
-    if (!(len > tolerance) || !std::isfinite(len)) return;
+    const double most = std::max({std::fabs(v.i), std::fabs(v.j), std::fabs(v.k)});
+    if (near_zero(most) || !std::isfinite(v.i) || !std::isfinite(v.j) || !std::isfinite(v.k)) return;
+    const vec3 to = value(v) / most;
+    const double aside = kx::length(vec2{to.x, to.y}), len = kx::length(to);
+    const double flat = aside > 1e-100 ? aside : 0.0;  // the squares of less have lost digits
     s_ = flat / len;
-    c_ = v.k / len;
-    if (flat > 0.0) toward_ = {v.i / flat, v.j / flat};
+    c_ = to.z / len;
+    if (flat > 0.0) toward_ = vec2{to.x, to.y} / flat;
   }
 
   bool is_turn() const { return s_ != 0.0 || c_ < 0.0; }

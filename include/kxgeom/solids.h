@@ -32,8 +32,8 @@ extern "C" {
  * first three vertices are not there has its normal turned); the extents become the least box around the vertices; the
  * axis in the primitive's record is turned. Distances are kept. A vector along +z leaves all as it is.
  * @param[in,out] s  the solid
- * @param[in] vector  its i, j and k are read, in any length; shorter than 1e-7, not finite or null it leaves the solid
- *   as it is
+ * @param[in] vector  its i, j and k are read, in any length; all within 1e-7 of 0, not finite or null it leaves the
+ *   solid as it is
  * @return s
  */
 KX_API solid *KX_CALL kx_transform_solid_vector(solid *s, const vector_3d *vector);

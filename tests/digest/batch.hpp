@@ -24,6 +24,7 @@ void uniform_curves();
 void lists_of_samples();
 void nonuniform_curves();
 void solids();
+void primitives();
 
 // ---- numbers ----
 
@@ -67,6 +68,10 @@ template <>
 inline constexpr const char *layout<hyperbola_2d> = "ddddid";
 template <>
 inline constexpr const char *layout<dwg_rec_2d> = "ddi";
+template <>
+inline constexpr const char *layout<cylinder> = "iddddddid";
+template <>
+inline constexpr const char *layout<torus> = "idddddiid";
 
 template <class T, class Visit>
 void each_field(T *record, Visit visit) {

@@ -20,7 +20,8 @@ int main() {
                                                              {"uniform curves", uniform_curves},
                                                              {"lists of samples", lists_of_samples},
                                                              {"non-uniform curves", nonuniform_curves},
-                                                             {"solids", solids}};
+                                                             {"solids", solids},
+                                                             {"primitives", primitives}};
   for (const auto &[name, run] : subsystems) {
     restart();
     run();
