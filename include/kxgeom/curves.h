@@ -1030,6 +1030,272 @@ KX_API curve *KX_CALL kx_curve_thru_points(const list_hdr *points);
  */
 KX_API curve *KX_CALL kx_curve_thru_npoints(const list_hdr *points, int32_t n, int32_t degree);
 
+/* ---- bezier points ---- */
+
+/**
+ * Computes n! as a double, exact up to 22.
+ * @param[in] n  the number; from 171 on the answer is infinite
+ * @return n!; 1 for 0, 1 and negative n
+ */
+KX_API double KX_CALL kx_bez_factorial(int32_t n);
+
+/**
+ * Makes an array of equally spaced points of a Bezier curve with kx_beziercurve2d or kx_beziercurve3d.
+ * @param[in] ctrl[n_ctrl*3]  control points, an array of pnt_2d (two numbers each) or pnt_3d
+ * @param[in] datatype  50 for pnt_2d, 51 for pnt_3d
+ * @param[in] n_ctrl  number of control points, 3 to 30
+ * @param[in] n_out  number of points wanted, 0 to 1 000 000
+ * @return the array of n_out points of the same kind, owned by the caller and freed by kx_purge_pnt_2d_array or
+ *   kx_purge_pnt_3d_array; null for a null array, any other datatype and counts out of range, and after the memory
+ *   message "kx_create_pnt_2d_array" or "kx_create_pnt_3d_array"
+ */
+KX_API double *KX_CALL kx_beziercurve(const double *ctrl, int32_t datatype, int32_t n_ctrl, int32_t n_out);
+
+/**
+ * Computes points of a plane Bezier curve at the parameters j / (n_out - 1), j from 0 to n_out - 1; a single point is
+ * that of parameter 0. The curve begins at the first control point, ends at the last one and stays in their hull.
+ * @param[in] ctrl[n_ctrl*2]  control points, an array of pnt_2d
+ * @param[in] n_ctrl  number of control points, 3 to 30
+ * @param[in] n_out  number of points wanted; nothing is written for one below 1
+ * @param[out] out[n_out*2]  array of n_out pnt_2d, not overlapping ctrl; unwritten unless the result is 0
+ * @return 0; 40 null ctrl, or null out with points wanted; 45 more than 30 control points; 46 fewer than 3
+ */
+KX_API int32_t KX_CALL kx_beziercurve2d(const double *ctrl, int32_t n_ctrl, int32_t n_out, double *out);
+
+/**
+ * Computes points of a space Bezier curve as kx_beziercurve2d does.
+ * @param[in] ctrl[n_ctrl*3]  control points, an array of pnt_3d
+ * @param[in] n_ctrl  number of control points, 3 to 30
+ * @param[in] n_out  number of points wanted; nothing is written for one below 1
+ * @param[out] out[n_out*3]  array of n_out pnt_3d, not overlapping ctrl; unwritten unless the result is 0
+ * @return as kx_beziercurve2d
+ */
+KX_API int32_t KX_CALL kx_beziercurve3d(const double *ctrl, int32_t n_ctrl, int32_t n_out, double *out);
+
+/**
+ * Makes a list of equally spaced points of a Bezier curve with kx_bezier_curve_2d (control points of datatype 50 or 62)
+ * or kx_bezier_curve_3d (51 or 63).
+ * @param[in] ctrl  control points; the current one tells the datatype
+ * @param[in] n_ctrl  number of control points
+ * @param[in,out] n_out  number of points wanted; number of points made, untouched when the result is null
+ * @return the list of poly_2d or poly_3d, owned by the caller and freed by kx_purge_polygon; null for null pointers,
+ *   any other datatype, an empty list and a result other than 0, and after a memory message
+ */
+KX_API list_hdr *KX_CALL kx_bezier_curve(const list_hdr *ctrl, int32_t n_ctrl, int32_t *n_out);
+
+/**
+ * Appends points of a plane Bezier curve at the parameters of kx_beziercurve2d to a list, numbered from 0. The first
+ * half of the curve takes the last n_ctrl control points of its list, the second half the first ones: n_ctrl is meant
+ * to be their number.
+ * @param[in] ctrl  control points of any of the four kinds
+ * @param[in] n_ctrl  number of control points, at most 30; for fewer than 3 nothing is appended
+ * @param[in] n_out  number of points wanted, at most 1 000 000; for fewer than 1 nothing is appended
+ * @param[in,out] out  list of poly_2d (62)
+ * @return 0; 40 null list, or fewer than n_ctrl control points; 45 n_ctrl above 30; 47 n_out above 1 000 000; 80 no
+ *   memory, after its message; nothing is appended unless the result is 0
+ */
+KX_API int32_t KX_CALL kx_bezier_curve_2d(const list_hdr *ctrl, int32_t n_ctrl, int32_t n_out, list_hdr *out);
+
+/**
+ * Appends points of a space Bezier curve to a list as kx_bezier_curve_2d does.
+ * @param[in] ctrl  control points of any of the four kinds; plane ones have z = 0
+ * @param[in] n_ctrl  number of control points, at most 30; for fewer than 3 nothing is appended
+ * @param[in] n_out  number of points wanted, at most 1 000 000; for fewer than 1 nothing is appended
+ * @param[in,out] out  list of poly_3d (63)
+ * @return as kx_bezier_curve_2d
+ */
+KX_API int32_t KX_CALL kx_bezier_curve_3d(const list_hdr *ctrl, int32_t n_ctrl, int32_t n_out, list_hdr *out);
+
+/**
+ * Computes one point of a plane Bezier curve by de Casteljau's construction, at any parameter.
+ * @param[in] ctrl[first+degree+1]  array that holds the control points
+ * @param[in] first  index of the first control point in it, not negative
+ * @param[in] degree  0 to 15; ctrl[first] to ctrl[first+degree] are the control points
+ * @param[in] t  parameter, 0 to 1 on the curve between its ends
+ * @return the point, owned by the caller and freed by kx_purge_pnt_2d; null for a null array and numbers out of range,
+ *   and after the memory message "kx_create_pnt_2d"
+ */
+KX_API pnt_2d *KX_CALL kx_bezier_pnt_2d(const pnt_2d *ctrl, int32_t first, int32_t degree, double t);
+
+/**
+ * Computes one point of a space Bezier curve as kx_bezier_pnt_2d does.
+ * @param[in] ctrl[first+degree+1]  array that holds the control points
+ * @param[in] first  index of the first control point in it, not negative
+ * @param[in] degree  0 to 15; ctrl[first] to ctrl[first+degree] are the control points
+ * @param[in] t  parameter, 0 to 1 on the curve between its ends
+ * @return the point, owned by the caller and freed by kx_purge_pnt_3d; null for a null array and numbers out of range,
+ *   and after the memory message "kx_create_pnt_3d"
+ */
+KX_API pnt_3d *KX_CALL kx_bezier_pnt_3d(const pnt_3d *ctrl, int32_t first, int32_t degree, double t);
+
+/* ---- bezier subdivision ---- */
+
+/**
+ * Cuts a Bezier curve in two with kx_sub_bezier_curve2d (control points of datatype 50 or 62) or kx_sub_bezier_curve3d
+ * (51 or 63).
+ * @param[in] c  the curve
+ * @param[in] t  parameter of the cut
+ * @param[in,out] first_part,second_part  as kx_sub_bezier_curve2d
+ * @return what that function returns; -1 for a null curve and for control points of any other datatype or none
+ */
+KX_API int32_t KX_CALL kx_sub_bezier_curve(const curve *c, double t, curve *first_part, curve *second_part);
+
+/**
+ * Cuts a plane Bezier curve (85) of degree + 1 control points in two and gives the control points of both parts, as
+ * poly_2d (62) numbered from 0 in the order of their list. Both parts begin at the cut: the first one runs backwards,
+ * from the point at t to the first control point. Only the control lists are filled; type, degree and basis are the
+ * caller's to set. Control points that a part had already stay; the new ones stand before those of the first part and
+ * behind those of the second, and the cursor ends at the point of the cut.
+ * @param[in] c  the curve; it may also be one of the parts
+ * @param[in] t  parameter of the cut, 0 to 1 between the ends; any number is taken
+ * @param[in,out] first_part,second_part  curves with control lists; untouched unless the result is 0
+ * @return 0; 40 null curve, not of type 85, missing control list, a degree outside 0 to 30 or fewer than degree + 1
+ *   control points; 80 no memory, after its message
+ */
+KX_API int32_t KX_CALL kx_sub_bezier_curve2d(const curve *c, double t, curve *first_part, curve *second_part);
+
+/**
+ * Cuts a space Bezier curve (86) in two, in every respect as kx_sub_bezier_curve2d does, into poly_3d points (63).
+ * @param[in] c  the curve; it may also be one of the parts
+ * @param[in] t  parameter of the cut, 0 to 1 between the ends; any number is taken
+ * @param[in,out] first_part,second_part  curves with control lists; untouched unless the result is 0
+ * @return as kx_sub_bezier_curve2d, 40 when not of type 86
+ */
+KX_API int32_t KX_CALL kx_sub_bezier_curve3d(const curve *c, double t, curve *first_part, curve *second_part);
+
+/* ---- rational bezier ---- */
+
+/**
+ * Makes a new rational Bezier curve of control points in the plane (datatype 50 or 62) or in space (51 or 63).
+ * @param[in,out] ctrl,weights  as kx_def_ratbezier_curve2d
+ * @return the curve, owned by the caller and freed by kx_purge_curve; null, the lists untouched, for any other
+ *   datatype, for what kx_def_ratbezier_curve2d refuses, and after a memory message
+ */
+KX_API curve *KX_CALL kx_def_ratbezier_curve(list_hdr *ctrl, list_hdr *weights);
+
+/**
+ * Makes a curve a rational Bezier curve in the plane (96), of degree control points - 1. The type is written first,
+ * also when a check then fails. A null list counts as an empty one.
+ * @param[in,out] ctrl,weights  2 to 31 control points and a weight or more for each; on success empty lists, their
+ *   headers all 0; untouched on failure
+ * @param[in,out] c  the curve
+ * @return 0; 1 fewer than 2 control points; 2 fewer weights than control points; 3 more than 31 control points; 4 null
+ *   curve; 80 when the curve lacks a list and none can be created
+ */
+KX_API int32_t KX_CALL kx_def_ratbezier_curve2d(list_hdr *ctrl, list_hdr *weights, curve *c);
+
+/**
+ * Makes a curve a rational Bezier curve in space (97), in every respect as kx_def_ratbezier_curve2d does.
+ * @param[in,out] ctrl,weights  as kx_def_ratbezier_curve2d
+ * @param[in,out] c  the curve
+ * @return as kx_def_ratbezier_curve2d
+ */
+KX_API int32_t KX_CALL kx_def_ratbezier_curve3d(list_hdr *ctrl, list_hdr *weights, curve *c);
+
+/**
+ * Samples a rational Bezier curve with kx_mk_rat_bezier_2d (type 96) or kx_mk_rat_bezier_3d (97).
+ * @param[in,out] c  the curve
+ * @param[in] step  parameter step
+ * @return what that maker returns; 1 null curve; 3 any other type
+ */
+KX_API int32_t KX_CALL kx_mk_ratbezier_curve(curve *c, double step);
+
+/**
+ * Samples a plane rational Bezier curve at the parameters 0, step, 2 step ... up to 1 and appends to curve_pnts (62)
+ * and curve_stats (60), lists that are created when missing. A parameter within 2e-7 of 1 is 1. The samples are
+ * numbered from 0; their statistics are the parameter, the unit first and second derivatives and the normal. Control
+ * points may be of any of the four kinds. With equal weights it is the Bezier curve of its control points; a common
+ * factor of the weights changes nothing.
+ * @param[in,out] c  the curve; step is noted in it
+ * @param[in] step  parameter step; one that is not finite or not above 1e-7 (a negative one too) counts as 0.1
+ * @return 0 done; 1 null curve, missing list or no control points; 2 degree outside 1 to 30 or fewer than degree + 1
+ *   control points; 3 not of type 96; 5 the weight of a sample is within 1e-7 of 0 or not finite; 6 fewer than
+ *   degree + 1 weights; 7 more than 1 000 000 samples; 80 no memory, after its message. Samples that were appended
+ *   before stay
+ */
+KX_API int32_t KX_CALL kx_mk_rat_bezier_2d(curve *c, double step);
+
+/**
+ * Samples a space rational Bezier curve, in every respect as kx_mk_rat_bezier_2d does, into poly_3d points (63) and
+ * curve_stats_3d statistics (61).
+ * @param[in,out] c  the curve; step is noted in it
+ * @param[in] step  parameter step; one that is not finite or not above 1e-7 (a negative one too) counts as 0.1
+ * @return as kx_mk_rat_bezier_2d, 3 when not of type 97
+ */
+KX_API int32_t KX_CALL kx_mk_rat_bezier_3d(curve *c, double step);
+
+/**
+ * Evaluates a rational Bezier curve in the plane (96) or in space (97) at one parameter.
+ * @param[in] c  the curve
+ * @param[in] t  parameter from 0 to 1, with the tolerance 1e-7 below and 2e-7 above
+ * @param[out] point  the point, z = 0 in the plane; unwritten on failure
+ * @return 0; 1, 2, 3, 5, 6 as kx_mk_rat_bezier_2d; 4 t out of range or no number; 40 null point
+ */
+KX_API int32_t KX_CALL kx_eval_pntonratbezier(const curve *c, double t, pnt_3d *point);
+
+/**
+ * Cuts a rational Bezier curve in two with kx_sub_ratbezier_curve2d (control points of datatype 50 or 62) or
+ * kx_sub_ratbezier_curve3d (51 or 63).
+ * @param[in] c  the curve
+ * @param[in] t  parameter of the cut
+ * @param[in,out] first_part,second_part  as kx_sub_ratbezier_curve2d
+ * @return what that function returns; -1 for a null curve and for control points of any other datatype or none
+ */
+KX_API int32_t KX_CALL kx_sub_ratbezier_curve(const curve *c, double t, curve *first_part, curve *second_part);
+
+/**
+ * Cuts a plane rational Bezier curve (96) in two as kx_sub_bezier_curve2d does a Bezier curve: control points and
+ * weights of both parts, those of the first backwards from the cut; type and degree are the caller's to set. A control
+ * point that is left without weight and without a place is the origin.
+ * @param[in] c  the curve; it may also be one of the parts
+ * @param[in] t  parameter of the cut, 0 to 1 between the ends; any number is taken
+ * @param[in,out] first_part,second_part  curves with control and weight lists; untouched unless the result is 0
+ * @return 0; 5 the weight of a control point is within 1e-7 of 0 or not finite; 40 null curve, missing list, or a curve
+ *   that kx_mk_rat_bezier_2d refuses; 80 no memory, after its message
+ */
+KX_API int32_t KX_CALL kx_sub_ratbezier_curve2d(const curve *c, double t, curve *first_part, curve *second_part);
+
+/**
+ * Cuts a space rational Bezier curve (97) in two, in every respect as kx_sub_ratbezier_curve2d does.
+ * @param[in] c  the curve; it may also be one of the parts
+ * @param[in] t  parameter of the cut, 0 to 1 between the ends; any number is taken
+ * @param[in,out] first_part,second_part  curves with control and weight lists; untouched unless the result is 0
+ * @return as kx_sub_ratbezier_curve2d
+ */
+KX_API int32_t KX_CALL kx_sub_ratbezier_curve3d(const curve *c, double t, curve *first_part, curve *second_part);
+
+/* ---- bezier fitting ---- */
+
+/**
+ * Computes the tangent of a run of plane points at one of them, of length 1: from points[i] to the next point (mode 0,
+ * the start of a run), to the one before (mode 1, its end), or half way between the directions from points[i+1] to
+ * points[i] and on to points[i-1] (mode 2, inside: backwards, too). One not longer than 1e-7 is not made unit length.
+ * @param[in] points[i+2]  array of points
+ * @param[in] i  index of the point in it, with its neighbours there
+ * @param[in] mode  0, 1 or 2
+ * @param[out] out  the components; unwritten unless the result is 0
+ * @return 0; mode - 2 for any other mode; 40 for null and for an index with no neighbour before it where that is asked
+ * for, or below 0
+ */
+KX_API int32_t KX_CALL kx_compute_bez_tangent(const pnt_2d *points, int32_t i, int32_t mode, pnt_2d *out);
+
+/**
+ * Fits cubic Bezier pieces to points in their order: no point is farther than a tolerance from its piece. A piece is
+ * the least-squares one for chord-length parameters, which Newton's method improves a few times. Where that is not
+ * enough the points are split at the worst one of the middle half; the pieces meet there with the tangent of
+ * kx_compute_bez_tangent, or with one each where the points turn back on themselves. The first and the last point and
+ * every split are met exactly. A point that repeats the one before it is passed over.
+ * @param[in] points  points of any of the four kinds; the current one's datatype tells plane (50, 62) from space (51,
+ *   63)
+ * @param[in] tolerance  greatest distance, 0 or more; 0 makes a piece for each pair of points that lies on no other
+ * @param[in,out] pieces  list to which the pieces are appended, four control points each, numbered from 0: poly_2d (62)
+ *   in the plane, poly_3d (63) in space; the cursor ends at the first one; untouched unless the result is 0
+ * @return 0; 1 fewer than two different points; 2 tolerance negative or no number; 3 a coordinate that is no number or
+ *   beyond 1e100; 40 null list, any other datatype, or an item without a record; 80 no memory, after its message (that
+ *   of the work space is "kx_fit_bezcurve")
+ */
+KX_API int32_t KX_CALL kx_fit_bezcurve(const list_hdr *points, double tolerance, list_hdr *pieces);
+
 #ifdef __cplusplus
 }
 #endif

@@ -23,6 +23,7 @@ void transform();
 void uniform_curves();
 void lists_of_samples();
 void nonuniform_curves();
+void bezier_curves();
 void solids();
 void primitives();
 

@@ -189,4 +189,72 @@ void nonuniform_curves() {
   }
 }
 
+void bezier_curves() {
+  for (int round = 0; round < 120; ++round) {
+    wild = round % 8 == 7;
+    const std::int32_t tag = tags[round % 4], n = 2 + below(18), many = 2 + below(30);
+    const bool space = tag == KX_PNT_3D || tag == KX_POLY_3D;
+    hash(kx_bez_factorial(integer() * 5));
+    double ctrl[93], out[30] = {};
+    for (double &value : ctrl) value = number();
+    hash(kx_beziercurve2d(ctrl, many, below(10), out));
+    hash(kx_beziercurve3d(ctrl, many, below(10), out));
+    for (const double value : out) hash(value);
+    double *array = kx_beziercurve(ctrl, space ? 51 : 50, many, 9);
+    for (int i = 0; array && i < 18; ++i) hash(array[i]);
+    if (space)
+      kx_purge_pnt_3d_array(reinterpret_cast<pnt_3d *>(array));
+    else
+      kx_purge_pnt_2d_array(reinterpret_cast<pnt_2d *>(array));
+    pnt_2d plane[20], tangent = {};
+    pnt_3d solid[20];
+    for (pnt_2d &point : plane) filled(&point);
+    for (pnt_3d &point : solid) filled(&point);
+    pnt_2d *flat_point = kx_bezier_pnt_2d(plane, below(4), below(17), number());
+    pnt_3d *space_point = kx_bezier_pnt_3d(solid, below(4), below(17), number());
+    hash_record(flat_point), hash_record(space_point);
+    kx_purge_pnt_2d(flat_point), kx_purge_pnt_3d(space_point);
+    hash(kx_compute_bez_tangent(plane, 1 + below(18), below(5) - 1, &tangent));
+    hash(tangent);
+
+    list_hdr *list = points(n, tag), *made = ll_create_list(), *fitted = ll_create_list();
+    std::int32_t n_out = below(12);
+    hash(kx_bezier_curve(list, n, &n_out));
+    hash(kx_bezier_curve_2d(list, n - below(2), below(12), made));
+    hash(made);
+    made = ll_create_list();
+    hash(kx_bezier_curve_3d(list, n - below(2), below(12), made));
+    hash(kx_fit_bezcurve(list, below(4), fitted));
+    hash(made), hash(fitted);
+    curve *c[6] = {kx_create_curve()};
+    for (int i = 1; i < 6; ++i) c[i] = kx_create_curve();
+    if (space) {
+      kx_purge_curve(c[0]);
+      c[0] = kx_def_ubezier_curve3d(list);
+      hash(kx_sub_bezier_curve3d(c[0], number(), c[1], c[2]));
+    } else {
+      hash(kx_def_ubezier_curve2d(list, c[0]));
+      hash(kx_sub_bezier_curve2d(c[0], number(), c[1], c[2]));
+    }
+    hash(kx_sub_bezier_curve(c[0], 0.3, c[1], c[2]));
+    list_hdr *ctrl_list[2] = {points(n, tag), points(n, tag)}, *weights[2] = {numbers(n, false), numbers(n, false)};
+    const auto define = space ? kx_def_ratbezier_curve3d : kx_def_ratbezier_curve2d;
+    const auto make = space ? kx_mk_rat_bezier_3d : kx_mk_rat_bezier_2d;
+    const auto cut = space ? kx_sub_ratbezier_curve3d : kx_sub_ratbezier_curve2d;
+    hash(define(ctrl_list[0], weights[0], c[3]));
+    curve *whole = kx_def_ratbezier_curve(ctrl_list[1], weights[1]);
+    hash(kx_mk_ratbezier_curve(whole, below(5) * 0.1));
+    hash(make(c[3], 0.125));
+    pnt_3d at = {};
+    hash(kx_eval_pntonratbezier(c[3], wild ? number() : below(9) * 0.125, &at));
+    hash(at);
+    hash(cut(c[3], below(9) * 0.125, c[4], c[5]));
+    hash(kx_sub_ratbezier_curve(whole, 0.5, c[4], c[5]));
+    for (curve *each : c) done(each);
+    if (whole) done(whole);
+    drop(list);
+    for (int i = 0; i < 2; ++i) drop(ctrl_list[i]), drop(weights[i]);
+  }
+}
+
 }  // namespace digest

@@ -20,6 +20,7 @@ int main() {
                                                              {"uniform curves", uniform_curves},
                                                              {"lists of samples", lists_of_samples},
                                                              {"non-uniform curves", nonuniform_curves},
+                                                             {"Bezier curves", bezier_curves},
                                                              {"solids", solids},
                                                              {"primitives", primitives}};
   for (const auto &[name, run] : subsystems) {

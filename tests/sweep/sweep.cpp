@@ -14,6 +14,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <random>
 #include <set>
 #include <string>
 #include <thread>
@@ -232,11 +234,33 @@ bool in_threads(const std::vector<const function *> &chosen) {
   return failed == std::vector<int>(failed.size(), 0);
 }
 
+// What calls write into files goes into a folder of its own.
+class scratch_folder {
+ public:
+  scratch_folder() { std::filesystem::current_path(path_); }
+  ~scratch_folder() {
+    std::filesystem::current_path(path_.parent_path());
+    std::filesystem::remove_all(path_);
+  }
+  scratch_folder(const scratch_folder &) = delete;
+  scratch_folder &operator=(const scratch_folder &) = delete;
+
+ private:
+  static std::filesystem::path make() {
+    const auto path =
+        std::filesystem::temp_directory_path() / ("kxgeom-sweep-" + std::to_string(std::random_device()()));
+    std::filesystem::create_directory(path);
+    return path;
+  }
+  const std::filesystem::path path_ = make();
+};
+
 }  // namespace
 }  // namespace sweep
 
 int main(int argc, char **argv) {
   using namespace sweep;
+  const scratch_folder here;
   const std::string mode = argc > 1 ? argv[1] : "values";
   std::vector<const function *> chosen;
   for (const function &f : functions) {
