@@ -3,14 +3,10 @@
 
 #include <cstdint>
 
+#include "curve_record.hpp"
 #include "runtime/tolerance.hpp"
 
 namespace kx {
-
-inline constexpr int max_bezier_degree = 30;
-
-// More points than this are asked for by mistake: they are refused, not tried.
-inline constexpr std::int32_t most_samples = 1000000;
 
 struct factorial_table {
   double of[max_bezier_degree + 1] = {1.0};

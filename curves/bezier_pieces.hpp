@@ -10,7 +10,6 @@
 
 namespace kx {
 
-inline constexpr std::int32_t max_bezier_degree = 30;
 inline constexpr int max_piece_points = max_bezier_degree + 1;
 
 // What is wrong with a curve; the numbers that the functions on any curve answer.

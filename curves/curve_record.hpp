@@ -30,7 +30,10 @@ struct curve_codes<space> {
                                 rational_bezier = 97;
 };
 
-inline constexpr std::int32_t max_degree = 15;
+inline constexpr std::int32_t max_degree = 15, max_bezier_degree = 30;
+
+// More points than this are asked for by mistake: the functions that are free to refuse them do.
+inline constexpr std::int32_t most_samples = 1000000;
 
 inline constexpr double identity_basis[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 

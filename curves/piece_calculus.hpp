@@ -17,8 +17,6 @@ enum query_fault : std::int32_t {
   no_argument = 40
 };
 
-inline constexpr std::int32_t most_samples = 1000000;
-
 template <class D>
 inline constexpr int dimension_of = sizeof(typename D::vector) / sizeof(double);
 

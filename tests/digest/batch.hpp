@@ -22,6 +22,7 @@ void polygon();
 void transform();
 void uniform_curves();
 void lists_of_samples();
+void interpolation();
 void nonuniform_curves();
 void bezier_curves();
 void solids();

@@ -37,6 +37,10 @@ void measure(const curve *c) {
   hash(kx_curve_chords_2d(c, tol, 12, flat, &count)), hash(kx_curve_chords_3d(c, tol, 8, flat, &count));
   hash(count);
   for (const double value : flat) hash(value);
+  pnt_3d derivs[4] = {};
+  hash(kx_eval_pointoncurve(c, t[3], derivs)), hash_record(derivs);
+  hash(kx_eval_derivsoncurve(c, t[4], 3, derivs));
+  for (const pnt_3d &p : derivs) hash(p);
   list_hdr *chords[2] = {ll_create_list(), ll_create_list()};
   hash(kx_curve_chordpnts_2d(c, tol, chords[0])), hash(kx_curve_chordpnts_3d(c, tol, chords[1]));
   for (list_hdr *list : chords) hash(list);
@@ -140,6 +144,28 @@ void lists_of_samples() {
     hash((below(2) ? kx_def_ubetaspl_curve2d : kx_def_ubetaspl_curve3d)(ctrl, c[0], a, number()));
     for (curve *each : c) hash(kx_mk_ucurve(each, 0.25)), pieces_of(each), done(each);
     drop(ctrl), drop(more);
+  }
+}
+
+void interpolation() {
+  for (int round = 0; round < 60; ++round) {
+    wild = round % 8 == 7;
+    list_hdr *given = points(2 + below(12), tags[round % 4]);
+    curve *through = kx_curve_thru_points(given);
+    pnt_3d at = {};
+    vector_3d derivs[3] = {};
+    begin_line("kx_eval_derivs_ucurve");
+    hash(kx_eval_derivs_ucurve(through, below(3), below(9) * 0.125, &at, derivs, derivs + 1, derivs + 2));
+    hash(at);
+    for (const vector_3d &each : derivs) hash_record(&each);
+    end_line();
+    done(through);
+    done(kx_curve_thru_npoints(given, 2 + below(given->count), 1 + below(5)));
+    hash(given);
+    pnt_3d coef[4];
+    for (pnt_3d &each : coef) filled(&each);
+    hash(kx_polynomial_pnt(coef, below(5) - 1, number(), coef));
+    hash(coef[0]);
   }
 }
 

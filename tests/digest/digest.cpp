@@ -19,6 +19,7 @@ int main() {
                                                              {"transform", transform},
                                                              {"uniform curves", uniform_curves},
                                                              {"lists of samples", lists_of_samples},
+                                                             {"interpolation", interpolation},
                                                              {"non-uniform curves", nonuniform_curves},
                                                              {"Bezier curves", bezier_curves},
                                                              {"solids", solids},
