@@ -106,8 +106,8 @@ std::int32_t bezier_pieces<D>::open_uniform(const curve &c, std::int32_t stride)
   stride_ = stride;
   has_basis_ = true;
   count_ = stride == 1 ? n - 3 : n / 4;
-  for (const double b : c.basis) {
-    if (!within_reach(b)) return bad_points;
+  for (int i = 0; i < 16; ++i) {  // by index: the record is packed, none of its fields may be referred to
+    if (!within_reach(c.basis[i])) return bad_points;
   }
   blend_of_basis(c, blend_);
   if (!create(n, 0, 0)) return no_memory_for_curve;
