@@ -129,7 +129,7 @@ TEST(solids, setting_takes_items_over_and_getting_lends_them) {
 
 TEST(solids, copies_hold_everything_in_records_of_their_own) {
   solid *s = corner_solid();
-  lengthen(s->face_list->head, 2);
+  lengthen(s->face_list->head, 1);
   solid *copy = kx_copy_solid(s);
   EXPECT_EQ(std::memcmp(copy, s, 60), 0) << "fifteen words";
   const auto *face = static_cast<polyface_3d *>(copy->face_list->tail->data);
