@@ -5,12 +5,6 @@
 
 namespace {
 
-// A circular section has at least 3 sectors; an elliptic one a multiple of 4, so that it reaches all its vertices.
-std::int64_t cylinder_sectors(double diameter_x, double diameter_y, std::int64_t n) {
-  if (kx_parmeq(diameter_x, diameter_y, kx::tolerance)) return n < 3 ? 3 : n;
-  return n < 4 ? 4 : (n + 3) / 4 * 4;
-}
-
 // The centre of the top and its ring, then the centre of the bottom and its own.
 bool cylinder_vertices(kx::solid_builder &parts, const kx::ring &top, double bottom_z, std::int32_t n) {
   if (!parts.vertex(top.center)) return false;
@@ -85,7 +79,7 @@ solid *KX_CALL kx_cylinder_pnts(const pnt_3d *center, double diameter_x, double 
                                 int32_t *sectors, const vector_3d *orientation, solid *given) {
   constexpr kx::primitive_kind kind{KX_SOLID_CYLINDER, "kx_cylinder_pnts", "kx_create_cylinder"};
   if (sectors == nullptr) return nullptr;
-  const std::int64_t adjusted = cylinder_sectors(diameter_x, diameter_y, *sectors);
+  const std::int64_t adjusted = kx::section_sectors(diameter_x, diameter_y, *sectors);
   return kx::build_primitive<cylinder>(
       kind, 2 * adjusted + 2, center, orientation, given, [&](solid &body, cylinder &record, kx::solid_builder &parts) {
         const auto n = static_cast<std::int32_t>(adjusted);

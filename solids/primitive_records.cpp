@@ -3,17 +3,7 @@
 
 #include "kxgeom/solids.h"
 #include "records/output.hpp"
-
-namespace {
-
-template <class T>
-void put_axis(double *x, double *y, double *z, const T &record) {
-  kx::put<double>(x, record.axis_x);
-  kx::put<double>(y, record.axis_y);
-  kx::put<double>(z, record.axis_z);
-}
-
-}  // namespace
+#include "solids/axis.hpp"
 
 void KX_CALL kx_purge_bodyrev(bodyrev *record) { kx::purge_bodyrev(record); }
 
@@ -31,7 +21,7 @@ void KX_CALL kx_get_block(pnt_3d *center, double *size_x, double *size_y, double
   kx::put<double>(size_x, rec->size_x);
   kx::put<double>(size_y, rec->size_y);
   kx::put<double>(size_z, rec->size_z);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_block(block *rec) { kx::release(rec); }
@@ -54,7 +44,7 @@ void KX_CALL kx_get_cylinder(int32_t *host_word, pnt_3d *center, double *diamete
   kx::put<double>(diameter_y, rec->diameter_y);
   kx::put<double>(height, rec->height);
   kx::put<std::int32_t>(sectors, rec->sectors);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_cylinder(cylinder *rec) { kx::release(rec); }
@@ -80,7 +70,7 @@ void KX_CALL kx_get_torus(int32_t *host_word, pnt_3d *center, double *major_radi
   kx::put<double>(minor_radius, rec->minor_radius);
   kx::put<std::int32_t>(sectors, rec->sectors);
   kx::put<std::int32_t>(tube_sectors, rec->tube_sectors);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_torus(torus *rec) { kx::release(rec); }
@@ -97,7 +87,7 @@ void KX_CALL kx_get_tetrahedron(pnt_3d *center, double *size, double *axis_x, do
   if (rec == nullptr) return;
   kx::put<pnt_3d>(center, rec->center);
   kx::put<double>(size, rec->size);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_tetrahedron(tetrahedron *rec) { kx::release(rec); }
@@ -114,7 +104,7 @@ void KX_CALL kx_get_hexahedron(pnt_3d *center, double *size, double *axis_x, dou
   if (rec == nullptr) return;
   kx::put<pnt_3d>(center, rec->center);
   kx::put<double>(size, rec->size);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_hexahedron(hexahedron *rec) { kx::release(rec); }
@@ -131,7 +121,7 @@ void KX_CALL kx_get_octahedron(pnt_3d *center, double *size, double *axis_x, dou
   if (rec == nullptr) return;
   kx::put<pnt_3d>(center, rec->center);
   kx::put<double>(size, rec->size);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_octahedron(octahedron *rec) { kx::release(rec); }
@@ -150,7 +140,7 @@ void KX_CALL kx_get_dodecahedron(pnt_3d *center, double *size, double *axis_x, d
   if (rec == nullptr) return;
   kx::put<pnt_3d>(center, rec->center);
   kx::put<double>(size, rec->size);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_dodecahedron(dodecahedron *rec) { kx::release(rec); }
@@ -167,7 +157,7 @@ void KX_CALL kx_get_icosahedron(pnt_3d *center, double *size, double *axis_x, do
   if (rec == nullptr) return;
   kx::put<pnt_3d>(center, rec->center);
   kx::put<double>(size, rec->size);
-  put_axis(axis_x, axis_y, axis_z, *rec);
+  kx::put_axis(axis_x, axis_y, axis_z, *rec);
 }
 
 void KX_CALL kx_purge_icosahedron(icosahedron *rec) { kx::release(rec); }

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "geometry/chords.hpp"
+#include "kxgeom/runtime.h"
 
 namespace kx {
 
@@ -18,6 +19,12 @@ struct ring {
   // The i-th of n points, counter-clockwise seen from above.
   vec3 at(std::int32_t i, std::int32_t n, double start_deg = 0.0) const { return at(start_deg + full_turn * i / n); }
 };
+
+// A circular section has at least 3 sectors; an elliptic one a multiple of 4, so that it reaches all its vertices.
+inline std::int64_t section_sectors(double diameter_x, double diameter_y, std::int64_t n) {
+  if (kx_parmeq(diameter_x, diameter_y, tolerance)) return n < 3 ? 3 : n;
+  return n < 4 ? 4 : (n + 3) / 4 * 4;
+}
 
 // Passes n points to a function, in order, until it returns false; false then.
 template <class F>

@@ -197,6 +197,242 @@ KX_API solid *KX_CALL kx_icosahedron_pnts(const pnt_3d *center, double size, con
 KX_API solid *KX_CALL kx_regpolyhedronpnts(int32_t kind, const pnt_3d *center, double size,
                                            const vector_3d *orientation, solid *given);
 
+/* ---- spheres ---- */
+
+/**
+ * Builds a ball: a vertex at each pole, stacks - 1 level rings between them at equal steps of the angle, triangles at
+ * the poles and faces of four vertices elsewhere. As for all bodies from here on, vertices and faces are counted as
+ * they are, faces are numbered from 0, levels run from the top down, and the extents are the least box around the
+ * vertices.
+ * @param[in] center  its centre
+ * @param[in] radius  its radius
+ * @param[in] sectors  sides of a ring, raised to 3
+ * @param[in] stacks  steps from pole to pole, raised to 2
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_sphere_pnts(const pnt_3d *center, double radius, int32_t sectors, int32_t stacks,
+                                     solid *given);
+
+/**
+ * Builds an ellipsoid as kx_sphere_pnts does a ball.
+ * @param[in] center  its centre
+ * @param[in] diameter_x,diameter_y,diameter_z  its diameters before the turn
+ * @param[in] sectors  sides of a ring, raised to 3 for equal diameters along x and y, otherwise to the next multiple of
+ *   4, 4 at least
+ * @param[in] stacks  steps from pole to pole, raised to 2
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_ellipsoid_pnts(const pnt_3d *center, double diameter_x, double diameter_y, double diameter_z,
+                                        int32_t sectors, int32_t stacks, const vector_3d *orientation, solid *given);
+
+/**
+ * Builds what a level plane leaves of a ball above it, with a flat bottom: a fan of triangles about its centre, with
+ * the attributes of kx_arc_faces, as all discs from here on. The solid is one of type ellipsoid, with twice the radius
+ * as diameters along x and y and twice the height along z.
+ * @param[in] center  centre of the ball
+ * @param[in] radius  radius of the ball
+ * @param[in] height  of the dome, from the plane to the top of the ball; cut to 0 and the ball's diameter
+ * @param[in] sectors  sides of a ring, raised to 3
+ * @param[in] stacks  steps from top to rim, raised to 1
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_spherical_dome_pnts(const pnt_3d *center, double radius, double height, int32_t sectors,
+                                             int32_t stacks, const vector_3d *orientation, solid *given);
+
+/**
+ * Builds the lower half of a ball, hollowed out by half a smaller ball about the same centre: open at the top, with a
+ * flat rim. A wall that leaves no hollow gives half a ball with a flat top. The solid is one of type ellipsoid, with
+ * the diameter of the ball along x and z and that of the hollow along y.
+ * @param[in] center  centre of the two balls
+ * @param[in] radius  radius of the outside
+ * @param[in] thickness  of the wall
+ * @param[in] sectors  sides of a ring, raised to 3
+ * @param[in] stacks  steps from bottom to rim, raised to 1
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_spherical_cup_pnts(const pnt_3d *center, double radius, double thickness, int32_t sectors,
+                                            int32_t stacks, const vector_3d *orientation, solid *given);
+
+/* ---- cones ---- */
+
+/**
+ * Builds a cone: an end without diameter, within 1e-7, is a point, the other ones are discs. With both ends like that,
+ * the bottom is a disc without extent.
+ * @param[in] center  its centre, at half its height
+ * @param[in] bottom_diameter,top_diameter,height  its sizes
+ * @param[in,out] sectors  sides of a ring, raised to 3; null builds nothing
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top, sectors unchanged then
+ */
+KX_API solid *KX_CALL kx_cone_pnts(const pnt_3d *center, double bottom_diameter, double top_diameter, double height,
+                                   int32_t *sectors, const vector_3d *orientation, solid *given);
+
+/**
+ * Builds a cylinder with a bore, both of circular or elliptic section: four rings and flat ends of four-sided faces.
+ * Along x and along y the larger diameter is the outer one. With both inner diameters 0, within 1e-7, it is closed by
+ * discs.
+ * @param[in] center  its centre
+ * @param[in] outer_x,outer_y  diameters of the outside before the turn
+ * @param[in] inner_x,inner_y  diameters of the bore
+ * @param[in] height  its height
+ * @param[in,out] sectors  sides of a ring, raised to 3, when a section is no circle to the next multiple of 4, 4 at
+ *   least; null builds nothing
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top, sectors unchanged then
+ */
+KX_API solid *KX_CALL kx_hcylinder_pnts(const pnt_3d *center, double outer_x, double outer_y, double inner_x,
+                                        double inner_y, double height, int32_t *sectors, const vector_3d *orientation,
+                                        solid *given);
+
+/* ---- quadrics ---- */
+
+/**
+ * Builds the upper sheet of the hyperboloid of two sheets, (z/c)^2 - (x/a)^2 - (y/b)^2 = 1, between two heights: from
+ * its vertex, or from a disc where the cut leaves that out, up to a disc. Heights below the vertex count as the vertex.
+ * @param[in] center  its centre
+ * @param[in] diameter_x,diameter_y,diameter_z  twice the semi-axes; that of z is read without its sign
+ * @param[in] bottom,top  heights above the centre that cut it, in any order
+ * @param[in] sectors  sides of a ring, raised to 3 for equal diameters along x and y, otherwise to the next multiple of
+ *   4, 4 at least
+ * @param[in] stacks  steps of the sheet, raised to 1
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_hyperboloid_pnts(const pnt_3d *center, double diameter_x, double diameter_y, double diameter_z,
+                                          double bottom, double top, int32_t sectors, int32_t stacks,
+                                          const vector_3d *orientation, solid *given);
+
+/**
+ * Builds the hyperboloid of one sheet, (x/a)^2 + (y/b)^2 - (z/c)^2 = 1, between two heights, each end a disc.
+ * @param[in] center  its centre
+ * @param[in] diameter_x,diameter_y,diameter_z  twice the semi-axes; that of z is read without its sign
+ * @param[in] bottom,top  heights above the centre that cut it, in any order
+ * @param[in] sectors  sides of a ring, raised to 3 for equal diameters along x and y, otherwise to the next multiple of
+ *   4, 4 at least
+ * @param[in] stacks  steps of the sheet, raised to 1
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_hyperboloid1s(const pnt_3d *center, double diameter_x, double diameter_y, double diameter_z,
+                                       double bottom, double top, int32_t sectors, int32_t stacks,
+                                       const vector_3d *orientation, solid *given);
+
+/**
+ * Builds the hyperboloid of two sheets between two heights: the piece of kx_hyperboloid_pnts and the one below the
+ * centre, two closed bodies in one solid. A piece that the heights leave out has no extent.
+ * @param[in] center  its centre
+ * @param[in] diameter_x,diameter_y,diameter_z  twice the semi-axes; that of z is read without its sign
+ * @param[in] bottom,top  heights above the centre that cut it, in any order
+ * @param[in] sectors  sides of a ring, raised to 3 for equal diameters along x and y, otherwise to the next multiple of
+ *   4, 4 at least
+ * @param[in] stacks  steps of each sheet, raised to 1
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_hyperboloid2s(const pnt_3d *center, double diameter_x, double diameter_y, double diameter_z,
+                                       double bottom, double top, int32_t sectors, int32_t stacks,
+                                       const vector_3d *orientation, solid *given);
+
+/**
+ * Builds an elliptic paraboloid: its vertex on top, a disc at the bottom.
+ * @param[in] center  its centre, at half its height
+ * @param[in] diameter_x,diameter_y  diameters of the disc before the turn
+ * @param[in] height  its height
+ * @param[in] sectors  sides of a ring, raised to 3 for equal diameters along x and y, otherwise to the next multiple of
+ *   4, 4 at least
+ * @param[in] stacks  rings, at equal steps of the diameter, raised to 1
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_paraboloid_pnts(const pnt_3d *center, double diameter_x, double diameter_y, double height,
+                                         int32_t sectors, int32_t stacks, const vector_3d *orientation, solid *given);
+
+/* ---- prisms ---- */
+
+/**
+ * Builds a prism, upright or oblique, on a regular polygon stretched to an ellipse, its first corner on the x axis: top
+ * ring, bottom ring; first the top, then sides of four vertices, then the bottom. Up to KX_RING_MOST corners top and
+ * bottom are one face each, with more they are cut into triangles, with the attribute 1 on the edges between them.
+ * @param[in] center  centre of the bottom, but at half the height
+ * @param[in] diameter_x,diameter_y  diameters of the ellipse before the turn
+ * @param[in] height  its height
+ * @param[in] shift_x,shift_y  how far the top is moved against the bottom
+ * @param[in,out] sectors  corners of the polygon, raised to 3; null builds nothing
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top, sectors unchanged then
+ */
+KX_API solid *KX_CALL kx_prism_pnts(const pnt_3d *center, double diameter_x, double diameter_y, double height,
+                                    double shift_x, double shift_y, int32_t *sectors, const vector_3d *orientation,
+                                    solid *given);
+
+/**
+ * Builds a pyramid on a rectangle: 5 vertices, the top first, 5 faces, the bottom last.
+ * @param[in] center  its centre, at half its height
+ * @param[in] size_x,size_y  sides of the rectangle before the turn
+ * @param[in] height  its height
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top
+ */
+KX_API solid *KX_CALL kx_pyramid_pnts(const pnt_3d *center, double size_x, double size_y, double height,
+                                      const vector_3d *orientation, solid *given);
+
+/* ---- swept bodies ---- */
+
+/**
+ * Turns a profile about the z axis. A list of points of one kind is a closed polygon, in any direction; points that
+ * repeat the one before are left out. x is the distance from the axis, within 1e-7 on it, and y the height above the
+ * centre, z for points in space. A whole turn leaves a ring, or, where the profile meets the axis, a body from one
+ * point of the axis to another, and one for each part of a profile that meets it repeatedly. Part of a turn has the
+ * profile as its ends: each is one face, or, past KX_RING_MOST corners and when the body has too few faces for
+ * kx_clear_solid to free that one, triangles with the attribute 1 on the edges between them. The profile is copied; the
+ * solid's record has the copy.
+ * @param[in] center  the point of the axis from which heights count
+ * @param[in] profile  the points
+ * @param[in] start_angle  where the turn begins, in degrees from x to y
+ * @param[in] sweep_angle  how far it goes; 360 or more, either way, is a whole turn
+ * @param[in,out] sectors  steps of the turn, raised to 3 for a whole one, so that each is 120 degrees at most; null
+ *   builds nothing
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top, sectors unchanged then; and, a given solid untouched, for a profile that
+ *   kx_check_poly refuses, that runs back over itself or that crosses the axis, for another kind of list, and for an
+ *   angle that is not finite or no sweep
+ */
+KX_API solid *KX_CALL kx_bodyrevolution(const pnt_3d *center, const list_hdr *profile, double start_angle,
+                                        double sweep_angle, int32_t *sectors, const vector_3d *orientation,
+                                        solid *given);
+
+/**
+ * Moves a profile along the z axis, as a prism is made. A list of points of one kind is a closed polygon, in any
+ * direction; points that repeat the one before are left out. z is not read. Top and bottom are one face each up to
+ * KX_RING_MOST corners, otherwise cut into triangles with the attribute 1 on the edges between them. The profile is
+ * copied; the solid's record has the copy.
+ * @param[in] center  where the profile has its origin, at half the height
+ * @param[in] profile  the points, measured from the centre
+ * @param[in] height  how far
+ * @param[in] orientation  what its z axis is turned to; null does not turn it
+ * @param[in,out] given  a solid to fill; null for a new one
+ * @return the solid; null as told at the top; and, a given solid untouched, for a profile that kx_check_poly refuses
+ *   and for another kind of list
+ */
+KX_API solid *KX_CALL kx_extbody_pnts(const pnt_3d *center, const list_hdr *profile, double height,
+                                      const vector_3d *orientation, solid *given);
+
 /* ---- primitive records ---- */
 
 /**
@@ -451,6 +687,324 @@ KX_API void KX_CALL kx_get_icosahedron(pnt_3d *center, double *size, double *axi
  * @param[in] rec  the record; null does nothing
  */
 KX_API void KX_CALL kx_purge_icosahedron(icosahedron *rec);
+
+/* ---- further primitive records ---- */
+
+/**
+ * Makes the record of a sphere, every field 0.
+ * @return the record, owned by the caller and freed by kx_purge_sphere; null after the memory message
+ *   "kx_create_sphere"
+ */
+KX_API sphere *KX_CALL kx_create_sphere(void);
+
+/**
+ * Stores the values of a sphere, word for word.
+ * @param[in] radius,sectors,stacks  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_sphere(const pnt_3d *center, double radius, int32_t sectors, int32_t stacks, sphere *rec);
+
+/**
+ * Reads the fields of a sphere.
+ * @param[out] center,radius,sectors,stacks  the fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_sphere(pnt_3d *center, double *radius, int32_t *sectors, int32_t *stacks, const sphere *rec);
+
+/**
+ * Frees the record of a sphere.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_sphere(sphere *rec);
+
+/**
+ * Makes the record of an ellipsoid, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_ellipsoid; null after the memory message
+ *   "kx_create_ellipsoid"
+ */
+KX_API ellipsoid *KX_CALL kx_create_ellipsoid(void);
+
+/**
+ * Stores the values of an ellipsoid, word for word.
+ * @param[in] host_word,diameter_x,diameter_y,diameter_z,sectors,stacks,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_ellipsoid(int32_t host_word, const pnt_3d *center, double diameter_x, double diameter_y,
+                                     double diameter_z, int32_t sectors, int32_t stacks, double axis_x, double axis_y,
+                                     double axis_z, ellipsoid *rec);
+
+/**
+ * Reads the fields of an ellipsoid.
+ * @param[out] host_word,center,diameter_x,diameter_y,diameter_z,sectors,stacks,axis_x,axis_y,axis_z  the fields, in
+ *   their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_ellipsoid(int32_t *host_word, pnt_3d *center, double *diameter_x, double *diameter_y,
+                                     double *diameter_z, int32_t *sectors, int32_t *stacks, double *axis_x,
+                                     double *axis_y, double *axis_z, const ellipsoid *rec);
+
+/**
+ * Frees the record of an ellipsoid.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_ellipsoid(ellipsoid *rec);
+
+/**
+ * Makes the record of a prism, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_prism; null after the memory message "kx_create_prism"
+ */
+KX_API prism *KX_CALL kx_create_prism(void);
+
+/**
+ * Stores the values of a prism, word for word.
+ * @param[in] diameter_x,diameter_y,height,shift_x,shift_y,sectors,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_prism(const pnt_3d *center, double diameter_x, double diameter_y, double height,
+                                 double shift_x, double shift_y, int32_t sectors, double axis_x, double axis_y,
+                                 double axis_z, prism *rec);
+
+/**
+ * Reads the fields of a prism.
+ * @param[out] center,diameter_x,diameter_y,height,shift_x,shift_y,sectors,axis_x,axis_y,axis_z  the fields, in their
+ *   order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_prism(pnt_3d *center, double *diameter_x, double *diameter_y, double *height,
+                                 double *shift_x, double *shift_y, int32_t *sectors, double *axis_x, double *axis_y,
+                                 double *axis_z, const prism *rec);
+
+/**
+ * Frees the record of a prism.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_prism(prism *rec);
+
+/**
+ * Makes the record of a cone, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_cone; null after the memory message "kx_create_cone"
+ */
+KX_API cone *KX_CALL kx_create_cone(void);
+
+/**
+ * Stores the values of a cone, word for word.
+ * @param[in] host_word,bottom_diameter,top_diameter,height,sectors,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_cone(int32_t host_word, const pnt_3d *center, double bottom_diameter, double top_diameter,
+                                double height, int32_t sectors, double axis_x, double axis_y, double axis_z, cone *rec);
+
+/**
+ * Reads the fields of a cone.
+ * @param[out] host_word,center,bottom_diameter,top_diameter,height,sectors,axis_x,axis_y,axis_z  the fields, in their
+ *   order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_cone(int32_t *host_word, pnt_3d *center, double *bottom_diameter, double *top_diameter,
+                                double *height, int32_t *sectors, double *axis_x, double *axis_y, double *axis_z,
+                                const cone *rec);
+
+/**
+ * Frees the record of a cone.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_cone(cone *rec);
+
+/**
+ * Makes the record of a hollow cylinder, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_hcylinder; null after the memory message
+ *   "kx_create_hcylinder"
+ */
+KX_API hcylinder *KX_CALL kx_create_hcylinder(void);
+
+/**
+ * Stores the values of a hollow cylinder, word for word.
+ * @param[in] host_word,outer_x,outer_y,inner_x,inner_y,height,sectors,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_hcylinder(int32_t host_word, const pnt_3d *center, double outer_x, double outer_y,
+                                     double inner_x, double inner_y, double height, int32_t sectors, double axis_x,
+                                     double axis_y, double axis_z, hcylinder *rec);
+
+/**
+ * Reads the fields of a hollow cylinder.
+ * @param[out] host_word,center,outer_x,outer_y,inner_x,inner_y,height,sectors,axis_x,axis_y,axis_z  the fields, in
+ *   their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_hcylinder(int32_t *host_word, pnt_3d *center, double *outer_x, double *outer_y,
+                                     double *inner_x, double *inner_y, double *height, int32_t *sectors, double *axis_x,
+                                     double *axis_y, double *axis_z, const hcylinder *rec);
+
+/**
+ * Frees the record of a hollow cylinder.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_hcylinder(hcylinder *rec);
+
+/**
+ * Makes the record of a hyperboloid, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_hyperboloid; null after the memory message
+ *   "kx_create_hyperboloid"
+ */
+KX_API hyperboloid *KX_CALL kx_create_hyperboloid(void);
+
+/**
+ * Stores the values of a hyperboloid, word for word.
+ * @param[in] host_word,diameter_x,diameter_y,diameter_z,bottom,top,sectors,stacks,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_hyperboloid(int32_t host_word, const pnt_3d *center, double diameter_x, double diameter_y,
+                                       double diameter_z, double bottom, double top, int32_t sectors, int32_t stacks,
+                                       double axis_x, double axis_y, double axis_z, hyperboloid *rec);
+
+/**
+ * Reads the fields of a hyperboloid.
+ * @param[out] host_word,center,diameter_x,diameter_y,diameter_z,bottom,top,sectors,stacks,axis_x,axis_y,axis_z  the
+ *   fields, in their order in the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_hyperboloid(int32_t *host_word, pnt_3d *center, double *diameter_x, double *diameter_y,
+                                       double *diameter_z, double *bottom, double *top, int32_t *sectors,
+                                       int32_t *stacks, double *axis_x, double *axis_y, double *axis_z,
+                                       const hyperboloid *rec);
+
+/**
+ * Frees the record of a hyperboloid.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_hyperboloid(hyperboloid *rec);
+
+/**
+ * Makes the record of a paraboloid, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_paraboloid; null after the memory message
+ *   "kx_create_paraboloid"
+ */
+KX_API paraboloid *KX_CALL kx_create_paraboloid(void);
+
+/**
+ * Stores the values of a paraboloid, word for word.
+ * @param[in] diameter_x,diameter_y,height,sectors,stacks,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_paraboloid(const pnt_3d *center, double diameter_x, double diameter_y, double height,
+                                      int32_t sectors, int32_t stacks, double axis_x, double axis_y, double axis_z,
+                                      paraboloid *rec);
+
+/**
+ * Reads the fields of a paraboloid.
+ * @param[out] center,diameter_x,diameter_y,height,sectors,stacks,axis_x,axis_y,axis_z  the fields, in their order in
+ *   the record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_paraboloid(pnt_3d *center, double *diameter_x, double *diameter_y, double *height,
+                                      int32_t *sectors, int32_t *stacks, double *axis_x, double *axis_y, double *axis_z,
+                                      const paraboloid *rec);
+
+/**
+ * Frees the record of a paraboloid.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_paraboloid(paraboloid *rec);
+
+/**
+ * Makes the record of a pyramid, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_pyramid; null after the memory message
+ *   "kx_create_pyramid"
+ */
+KX_API pyramid *KX_CALL kx_create_pyramid(void);
+
+/**
+ * Stores the values of a pyramid, word for word.
+ * @param[in] size_x,size_y,height,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_pyramid(const pnt_3d *center, double size_x, double size_y, double height, double axis_x,
+                                   double axis_y, double axis_z, pyramid *rec);
+
+/**
+ * Reads the fields of a pyramid.
+ * @param[out] center,size_x,size_y,height,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is
+ *   passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_pyramid(pnt_3d *center, double *size_x, double *size_y, double *height, double *axis_x,
+                                   double *axis_y, double *axis_z, const pyramid *rec);
+
+/**
+ * Frees the record of a pyramid.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_pyramid(pyramid *rec);
+
+/**
+ * Makes the record of a body of revolution, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_bodyrev; null after the memory message
+ *   "kx_create_bodyrev"
+ */
+KX_API bodyrev *KX_CALL kx_create_bodyrev(void);
+
+/**
+ * Stores the values of a body of revolution, word for word.
+ * @param[in] start_angle,sweep_angle,sectors,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in] profile  its list of points, which is the record's afterwards; one that it held before is the caller's
+ *   again
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_bodyrev(const pnt_3d *center, list_hdr *profile, double start_angle, double sweep_angle,
+                                   int32_t sectors, double axis_x, double axis_y, double axis_z, bodyrev *rec);
+
+/**
+ * Reads the fields of a body of revolution. The profile stays the record's.
+ * @param[out] center,profile,start_angle,sweep_angle,sectors,axis_x,axis_y,axis_z  the fields, in their order in the
+ *   record; a null one is passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_bodyrev(pnt_3d *center, list_hdr **profile, double *start_angle, double *sweep_angle,
+                                   int32_t *sectors, double *axis_x, double *axis_y, double *axis_z,
+                                   const bodyrev *rec);
+
+/**
+ * Makes the record of an extruded body, every field 0 but for its axis, (0, 0, 1).
+ * @return the record, owned by the caller and freed by kx_purge_extbody; null after the memory message
+ *   "kx_create_extbody"
+ */
+KX_API extbody *KX_CALL kx_create_extbody(void);
+
+/**
+ * Stores the values of an extruded body, word for word.
+ * @param[in] height,axis_x,axis_y,axis_z  the values
+ * @param[in] center  its centre; null leaves that of the record
+ * @param[in] profile  its list of points, which is the record's afterwards; one that it held before is the caller's
+ *   again
+ * @param[in,out] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_set_extbody(const pnt_3d *center, list_hdr *profile, double height, double axis_x, double axis_y,
+                                   double axis_z, extbody *rec);
+
+/**
+ * Reads the fields of an extruded body. The profile stays the record's.
+ * @param[out] center,profile,height,axis_x,axis_y,axis_z  the fields, in their order in the record; a null one is
+ *   passed over
+ * @param[in] rec  the record; null writes nothing
+ */
+KX_API void KX_CALL kx_get_extbody(pnt_3d *center, list_hdr **profile, double *height, double *axis_x, double *axis_y,
+                                   double *axis_z, const extbody *rec);
+
+/**
+ * Frees the record of an extruded body, with its profile.
+ * @param[in] rec  the record; null does nothing
+ */
+KX_API void KX_CALL kx_purge_extbody(extbody *rec);
 
 /* ---- mesh file ---- */
 

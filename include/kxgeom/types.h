@@ -355,6 +355,8 @@ typedef struct sphere {
   int32_t sectors, stacks;
 } sphere;
 
+/* Also that of a dome, whose diameters along x and y are those of its ball while half of that along z is the dome's
+   height, and of a cup, whose diameter along y is that of the hollow. */
 typedef struct ellipsoid {
   int32_t host_word;
   pnt_3d center;
@@ -369,7 +371,7 @@ typedef struct block {
   double axis_x, axis_y, axis_z;
 } block;
 
-/* The base polygon is inscribed in the ellipse of the diameters; the top one is shifted against it. */
+/* The base polygon is inscribed in the ellipse of the diameters; the top one is moved against it by the shifts. */
 typedef struct prism {
   pnt_3d center;
   double diameter_x, diameter_y, height;
@@ -404,7 +406,7 @@ typedef struct hcylinder {
   double axis_x, axis_y, axis_z;
 } hcylinder;
 
-/* Its diameters are twice the semi-axes; bottom and top cut it, measured from the centre. */
+/* Its diameters are twice the semi-axes; bottom and top are the heights above the centre that cut it. */
 typedef struct hyperboloid {
   int32_t host_word;
   pnt_3d center;
@@ -437,7 +439,7 @@ typedef struct torus {
   double axis_x, axis_y, axis_z;
 } torus;
 
-/* A profile turned about the z axis through the centre, in degrees. */
+/* A profile turned about the z axis through the centre by sweep_angle, from start_angle on, in degrees. */
 typedef struct bodyrev {
   pnt_3d center;
   list_hdr *profile; /* points */
