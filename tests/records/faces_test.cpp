@@ -128,7 +128,8 @@ TEST(faces, listed_rings_end_early_and_words_are_copied) {
 
 TEST(faces, normals_take_the_corners_in_list_order) {
   solid *s = kx_create_solid();
-  list_hdr *list = s->vertex_list = vertices({{2, 0, 3, 1}, {0, 0, 0, 0}, {1, 2, 0, 0}}), *two = vertices({{0, 0, 0, 0}, {1, 0, 0, 0}});
+  list_hdr *list = s->vertex_list = vertices({{2, 0, 3, 1}, {0, 0, 0, 0}, {1, 2, 0, 0}}),
+           *two = vertices({{0, 0, 0, 0}, {1, 0, 0, 0}});
   vector_3d n = {}, tip = {};
   list->current = list->tail;
   ASSERT_TRUE(kx_get_face_normal(0, 1, 2, list, &n) == 0 && list->current == list->head);
