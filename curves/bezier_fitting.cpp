@@ -332,7 +332,7 @@ std::int32_t fit_list(const list_hdr *points, double tolerance, list_hdr *pieces
 
 std::int32_t KX_CALL kx_compute_bez_tangent(const pnt_2d *points, std::int32_t i, std::int32_t mode, pnt_2d *out) {
   if (points == nullptr || out == nullptr) return 40;
-  if (mode < at_start || mode > inside) return mode - 2;
+  if (mode < at_start || mode > inside) return mode < INT32_MIN + 2 ? INT32_MIN : mode - 2;
   if (i < (mode == at_start ? 0 : 1)) return 40;
   const pnt_2d *at = points + i;
   const kx::vec2 here = plane::read(*at);

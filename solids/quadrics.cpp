@@ -70,7 +70,9 @@ class bowl {
 template <class Plan, class Put>
 solid *build_hyperboloid(const kx::primitive_kind &kind, hyperboloid values, const pnt_3d *center,
                          const vector_3d *orientation, solid *given, Plan plan, Put put) {
-  if (values.bottom > values.top) std::swap(values.bottom, values.top);
+  const double bottom = values.bottom, top = values.top;
+  values.bottom = std::min(bottom, top);
+  values.top = std::max(bottom, top);
   values.stacks = std::max(values.stacks, 1);
   const quadric q{0.5 * values.diameter_x,
                   0.5 * values.diameter_y,

@@ -220,7 +220,7 @@ void bezier_curves() {
     wild = round % 8 == 7;
     const std::int32_t tag = tags[round % 4], n = 2 + below(18), many = 2 + below(30);
     const bool space = tag == KX_PNT_3D || tag == KX_POLY_3D;
-    hash(kx_bez_factorial(integer() * 5));
+    hash(kx_bez_factorial(integer())), hash(kx_bez_factorial(30 + below(160)));
     double ctrl[93], out[30] = {};
     for (double &value : ctrl) value = number();
     hash(kx_beziercurve2d(ctrl, many, below(10), out));

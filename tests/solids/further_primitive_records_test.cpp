@@ -34,7 +34,7 @@ void expect_kept(const char *name, T *(KX_CALL *create)(), void(KX_CALL *set)(A.
   std::tuple<A...> in{make<A>(next)...};
   std::tuple<std::remove_const_t<std::remove_pointer_t<G>>...> out{};
   T *rec = create();
-  if constexpr (requires { rec->axis_z; }) EXPECT_EQ(rec->axis_z, 1);
+  if constexpr (requires { rec->axis_z; }) EXPECT_EQ(+rec->axis_z, 1);
   set(std::get<I>(in)..., rec);
   get(&std::get<I>(out)..., rec);
   EXPECT_TRUE((same(std::get<I>(in), std::get<I>(out)) && ...));

@@ -39,7 +39,7 @@ TEST(PrimitiveRecords, KeepTheirValues) {
 #define EXPECT_KEEPS(kind)                                                  \
   {                                                                         \
     kind *rec = kx_create_##kind();                                         \
-    EXPECT_EQ(rec->axis_z, 1);                                              \
+    EXPECT_EQ(+rec->axis_z, 1);                                             \
     kx_set_##kind(&centre, 4, 5, 6, 7, rec);                                \
     kx_get_##kind(&p, d, d + 1, d + 2, d + 3, rec);                         \
     EXPECT_TRUE(d[0] == 4 && d[1] == 5 && d[2] == 6 && d[3] == 7) << #kind; \

@@ -114,8 +114,8 @@ TEST(RingStack, FromItsOwnCentre) {
   solid *s = kx_sphere_pnts(&centre, 2, 4, 2, nullptr);
   auto *own = static_cast<sphere *>(s->solid_data);
   ASSERT_EQ(kx_ellipsoid_pnts(&own->center, 2, 2, 2, 3, 2, nullptr, s), s);
-  EXPECT_EQ(static_cast<ellipsoid *>(s->solid_data)->center.z, 3);
-  EXPECT_EQ(s->zmax, 4);
+  EXPECT_EQ(+static_cast<ellipsoid *>(s->solid_data)->center.z, 3);
+  EXPECT_EQ(+s->zmax, 4);
   kx_purge_solid(s);
 }
 

@@ -68,7 +68,7 @@ TEST(Turning, PivotsAboutTheRecordAndTurnsItsAxis) {
   face->normal = {0, 1, 1, 2, 3};
   kx_transform_solid_vector(s, &down);
   EXPECT_TRUE(face->normal.i == 1 && face->normal.j == -2 && face->normal.k == -3 && face->normal.length > 3.7);
-  EXPECT_EQ(t->axis_z, 1);
+  EXPECT_EQ(+t->axis_z, 1);
   kx_purge_solid(s);
 }
 
