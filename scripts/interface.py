@@ -64,7 +64,7 @@ def type_name(node, declared=""):
     if isinstance(node, c_ast.PtrDecl):
         if isinstance(node.type, c_ast.FuncDecl):
             arguments = ", ".join(type_name(p.type) for p in node.type.args.params) if node.type.args else "void"
-            return f"{type_name(node.type.type)} (KX_CALL *{declared})({arguments})"
+            return f"{type_name(node.type.type)} (*{declared})({arguments})"
         return type_name(node.type).rstrip() + (" *" if not type_name(node.type).endswith("*") else "*") + (
             " const" if "const" in node.quals else "")
     if isinstance(node, c_ast.TypeDecl):

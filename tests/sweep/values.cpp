@@ -306,7 +306,7 @@ void values<poly_3d *const *>::make(const request &r, draw &d, slot &s) { make_p
 
 int values<compare_function>::specials(const parameter &) { return 1; }
 void values<compare_function>::make(const request &r, draw &, slot &s) {
-  const compare_function always = [](void *, void *) KX_CALL -> std::int32_t { return 0; };
+  const compare_function always = [](void *, void *) -> std::int32_t { return 0; };
   s.set(r.special < 0 ? always : nullptr);
 }
 

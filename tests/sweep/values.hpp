@@ -165,7 +165,7 @@ struct values<T *, std::enable_if_t<!std::is_pointer_v<T> && !std::is_function_v
     static int specials(const parameter &p);              \
     static void make(const request &r, draw &d, slot &s); \
   }
-using compare_function = std::int32_t(KX_CALL *)(void *, void *);
+using compare_function = std::int32_t (*)(void *, void *);
 SWEEP_SPECIAL_TYPE(list_hdr *);
 SWEEP_SPECIAL_TYPE(list_hdr **);
 SWEEP_SPECIAL_TYPE(curve *);
