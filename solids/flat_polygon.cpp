@@ -21,53 +21,51 @@ bool left(vec2 a, vec2 b, vec2 c, double sine) {
 }
 
 // Corners that can keep others from being cut off: those that are not convex. Boxes over runs of eight, over eight of
-// those, and so on; a box whose corners have all become convex is not looked into.
+// those, and so on hold no more than what is still in the way.
 class obstacles {
  public:
-  obstacles(const vec2 *points, std::int32_t n) : points_(points), in_way_(std::int64_t{n}), nodes_(room(n)) {
-    if (!*this) return;
-    std::int32_t below = n;
-    for (first_[0] = 0; below > 1 || levels_ == 0; ++levels_) {
-      below = (below + fan - 1) / fan;
-      std::fill_n(nodes_.data() + first_[levels_], below, node{});
-      first_[levels_ + 1] = first_[levels_] + below;
-    }
-    std::fill_n(in_way_.data(), n, false);
-    for (std::int32_t i = 0; i < n; ++i) {
-      std::int32_t j = i;
-      for (int level = 0; level < levels_; ++level) at(level, j /= fan).bounds.hold(points[i]);
-    }
-    n_ = n;
-  }
+  obstacles(const vec2 *points, std::int32_t n) : points_(points), n_(n), in_way_(n), nodes_(room(n)) {}
   explicit operator bool() const { return in_way_ && nodes_; }
 
-  bool contains(std::int32_t i) const { return in_way_[i]; }
-  void put(std::int32_t i) { change(i, true); }
+  // Begins with those for which in_way(i) is true.
+  template <class InWay>
+  void begin(InWay in_way) {
+    for (std::int32_t i = 0; i < n_; ++i) in_way_[i] = in_way(i);
+    for (std::int32_t below = n_; below > 1 || levels_ == 0; ++levels_) {
+      below = (below + fan - 1) / fan;
+      first_[levels_ + 1] = first_[levels_] + below;
+      for (std::int32_t j = 0; j < below; ++j) refresh(levels_, j);
+    }
+  }
+
   void remove(std::int32_t i) {
-    if (in_way_[i]) change(i, false);
+    if (!in_way_[i]) return;
+    in_way_[i] = false;
+    for (int level = 0; level < levels_; ++level) refresh(level, i /= fan);
   }
 
   // Whether one of them is in the closed triangle a, b, c, its own corners apart.
   bool any_within(const kx::corner_triangle &t, double sine) const {
     const vec2 a = points_[t.a], b = points_[t.b], c = points_[t.c];
     const double longest = std::max(kx::length(b - a), std::max(kx::length(c - b), kx::length(a - c)));
-    return any_within({t, a, b, c, sine, sine * longest}, levels_ - 1, 0);
+    const double margin = sine * longest;
+    kx::box around;
+    for (const vec2 p : {a, b, c}) around.hold(p - vec2{margin, margin}), around.hold(p + vec2{margin, margin});
+    return any_within({t, a, b, c, sine, margin, around}, levels_ - 1, 0);
   }
 
  private:
   static constexpr std::int32_t fan = 8;
 
-  struct node {
-    kx::box bounds;
-    std::int32_t count = 0;
-  };
-
   struct query {
     kx::corner_triangle corners;
     vec2 a, b, c;
     double sine, margin;
+    kx::box around;
 
-    bool misses(const kx::box &box) const { return beyond(a, b, box) || beyond(b, c, box) || beyond(c, a, box); }
+    bool misses(const kx::box &box) const {
+      return !around.meets(box) || beyond(a, b, box) || beyond(b, c, box) || beyond(c, a, box);
+    }
     bool holds(vec2 p) const { return !left(b, a, p, sine) && !left(c, b, p, sine) && !left(a, c, p, sine); }
 
     // Whether a box lies to the right of the way from one corner to another: its leftmost point does.
@@ -83,18 +81,28 @@ class obstacles {
     return all;
   }
 
-  node &at(int level, std::int32_t j) const { return nodes_[first_[level] + j]; }
+  static bool empty(const kx::box &b) { return b.x1 > b.x2; }
+  kx::box &at(int level, std::int32_t j) const { return nodes_[first_[level] + j]; }
+  std::int32_t after_last(int level, std::int32_t j) const {
+    return std::min(fan * (j + 1), level > 0 ? first_[level] - first_[level - 1] : n_);
+  }
 
-  void change(std::int32_t i, bool in_way) {
-    in_way_[i] = in_way;
-    for (int level = 0; level < levels_; ++level) at(level, i /= fan).count += in_way ? 1 : -1;
+  void refresh(int level, std::int32_t j) {
+    kx::box bounds;
+    for (std::int32_t i = fan * j; i < after_last(level, j); ++i) {
+      if (level == 0) {
+        if (in_way_[i]) bounds.hold(points_[i]);
+      } else if (const kx::box &part = at(level - 1, i); !empty(part)) {
+        bounds.hold(part);
+      }
+    }
+    at(level, j) = bounds;
   }
 
   bool any_within(const query &q, int level, std::int32_t j) const {
-    const node &run = at(level, j);
-    if (run.count == 0 || q.misses(run.bounds)) return false;
-    const std::int32_t below = level > 0 ? first_[level] - first_[level - 1] : n_;
-    for (std::int32_t i = fan * j; i < std::min(fan * (j + 1), below); ++i) {
+    const kx::box &bounds = at(level, j);
+    if (empty(bounds) || q.misses(bounds)) return false;
+    for (std::int32_t i = fan * j; i < after_last(level, j); ++i) {
       if (level > 0 ? any_within(q, level - 1, i) : blocks(q, i)) return true;
     }
     return false;
@@ -105,9 +113,9 @@ class obstacles {
   }
 
   const vec2 *points_;
-  std::int32_t n_ = 0;
+  std::int32_t n_;
   kx::scratch<bool> in_way_;
-  kx::scratch<node> nodes_;
+  kx::scratch<kx::box> nodes_;
   int levels_ = 0;
   std::int32_t first_[13] = {};
 };
@@ -123,9 +131,7 @@ class ear_cutter {
   void run(kx::corner_triangle *out) {
     const std::int32_t n = left_;
     for (std::int32_t i = 0; i < n; ++i) links_[i] = {i ? i - 1 : n - 1, i + 1 < n ? i + 1 : 0, 0};
-    for (std::int32_t i = 0; i < n; ++i) {
-      if (!convex(i, in_line[0])) obstacles_.put(i);
-    }
+    obstacles_.begin([this](std::int32_t i) { return !convex(i, in_line[0]); });
     std::int32_t ring = 0;
     for (const double sine : in_line) {
       pushed_ = 0;

@@ -74,6 +74,20 @@ template <>
 inline constexpr const char *layout<cylinder> = "iddddddid";
 template <>
 inline constexpr const char *layout<torus> = "idddddiid";
+template <>
+inline constexpr const char *layout<sphere> = "ddddi";
+template <>
+inline constexpr const char *layout<ellipsoid> = "iddddddiid";
+template <>
+inline constexpr const char *layout<prism> = "ddddddddid";
+template <>
+inline constexpr const char *layout<cone> = "iddddddid";
+template <>
+inline constexpr const char *layout<hcylinder> = "iddddddddid";
+template <>
+inline constexpr const char *layout<hyperboloid> = "iddddddddiid";
+template <>
+inline constexpr const char *layout<paraboloid> = "ddddddiid";
 
 template <class T, class Visit>
 void each_field(T *record, Visit visit) {

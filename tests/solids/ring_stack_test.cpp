@@ -70,7 +70,7 @@ TEST(RingStack, BodiesAreClosedAndConvergeToTheirFormulas) {
       if (r.area != unknown) EXPECT_NEAR(m.area / r.area, 1, error) << n;
       EXPECT_GT(m.volume, 0);
       EXPECT_TRUE(s->solid_type == r.type && s->vertex_count == s->vertex_list->count);
-      EXPECT_EQ(s->face_count, s->face_list->count);
+      EXPECT_EQ(+s->face_count, +s->face_list->count);
       kx_purge_solid(s);
     }
   }

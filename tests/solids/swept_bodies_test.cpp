@@ -70,7 +70,7 @@ TEST(SweptBodies, TurnedProfiles) {
         const double step = std::fabs(sweep) / 48 * pi / 180;
         EXPECT_NEAR(m.volume / (turned(profile) * 48 * std::sin(step)), 1, 1e-8) << sweep;
         EXPECT_TRUE(s->solid_type == 15 && s->vertex_count == s->vertex_list->count && l.list.count);
-        EXPECT_EQ(static_cast<bodyrev *>(s->solid_data)->profile->count, l.list.count);
+        EXPECT_EQ(+static_cast<bodyrev *>(s->solid_data)->profile->count, +l.list.count);
         kx_purge_solid(s);
       }
     }
@@ -123,7 +123,7 @@ TEST(SweptBodies, ExtrudedProfiles) {
     solid *s = kx_extbody_pnts(&centre, l, 3, n % 2 ? &tilted : nullptr, nullptr);
     const auto mesh = closed_body::check(s, 2, box::least);
     EXPECT_NEAR(closed_body::measure(mesh).volume, 3 * area(shape), 1e-9 * n) << n;
-    EXPECT_EQ(s->face_count, n <= 26 ? n + 2 : n + 2 * (n - 2));
+    EXPECT_EQ(+s->face_count, n <= 26 ? n + 2 : n + 2 * (n - 2));
     // All faces of the ends have the same direction, and none is without area.
     for (const auto &ring : mesh.rings) {
       closed_body::mesh one{mesh.corners, {ring}};
@@ -201,7 +201,7 @@ TEST(SweptBodies, EachAllocationMayFail) {
           [&](int failed, solid *s, solid *built) {
             EXPECT_TRUE(failed == 0 ? built && faults::messages().empty() : built || !faults::messages().empty())
                 << failed;
-            if (built) EXPECT_EQ(built->vertex_count, built->vertex_list->count);
+            if (built) EXPECT_EQ(+built->vertex_count, +built->vertex_list->count);
             kx_purge_solid(given ? s : built);
           });
     }
