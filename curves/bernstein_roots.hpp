@@ -57,7 +57,7 @@ struct bernstein {
   static constexpr double roundings = 8.0 * std::numeric_limits<double>::epsilon();
 
   struct plain_coefficients {
-    double value[max_product_degree + 1], size[max_product_degree + 1];
+    double value[max_product_degree + 1] = {}, size[max_product_degree + 1] = {};
     explicit plain_coefficients(const bernstein &b) {
       double binomial = 1.0;
       for (int j = 0; j <= b.degree; ++j) {

@@ -818,7 +818,7 @@ KX_API int32_t KX_CALL kx_curve_steps_3d(const curve *c, int32_t steps, int32_t 
  * @param[out] xy[2*capacity]  x, y of each, as far as there is room; may be null when capacity is 0
  * @param[out] count  number of points of the polygon
  * @return 0; 1 to 6, 40, 80 as said above; 8 a tolerance not above 0 or not finite, or a negative capacity; 9 more than
- *   1 000 000 points; 10 capacity is less than count, which is written
+ *   1 000 000 points, of which some may be written; 10 capacity is less than count, which is written
  */
 KX_API int32_t KX_CALL kx_curve_chords_2d(const curve *c, double tol, int32_t capacity, double *xy, int32_t *count);
 

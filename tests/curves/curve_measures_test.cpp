@@ -40,7 +40,7 @@ double curvature(const curve *c, double t, pnt_3d &centre) {
 TEST(curve_measures, nothing_is_nearer_than_the_nearest_point) {
   for_each_curve([](const curve *c) {
     const auto all = pieces(c);
-    for (int k = 0; k < 25; ++k) {
+    for (int k = 0; k < 12; ++k) {
       pnt_3d q{4 + 5 * std::sin(3.1 * k), 4 * std::cos(1.3 * k), in_space(c->curve_type) ? 5 * std::sin(0.7 * k) : 0};
       if (k == 0) q = point(c, 0.5 * (all.front().start + all.front().end));
       if (k == 1) q = {1e5, 3e5, 0};
