@@ -7,8 +7,7 @@ namespace kxdraw {
 
 namespace {
 
-constexpr int most_points = 2'000'000;  // of one spline
-constexpr int no_memory = 80;
+constexpr int too_many_points = 9, no_memory = 80;
 
 std::string status_text(const char *function, std::int32_t status, const char *meaning) {
   if (status == no_memory) throw std::bad_alloc();
@@ -105,42 +104,33 @@ struct shape_sampler {
     }
   }
 
-  owned_curve spline_curve(const spline_shape &spline, int steps);
+  owned_curve spline_curve(const spline_shape &spline);
 };
 
 // ---- splines ----
 
-// How far a point may be from the segment ab: it lies on an ellipse with the foci a and b, and no point of that is
-// farther from the segment than the minor semi-axis. Exact halfway along the segment, and 0 everywhere on it.
-double deviation(const pnt_2d &a, const pnt_2d &b, const pnt_2d &point) {
-  const double way = kx_distance(&a, &point) + kx_distance(&point, &b), chord = kx_distance(&a, &b);
-  return std::sqrt(std::fmax(0.0, (way - chord) * (way + chord))) / 2;
-}
-
-// The curve sampled at twice the steps per span; its odd points tell how far the chords between the even ones go
-// astray.
-std::vector<pnt_2d> curve_points(const curve &c) {
-  std::vector<pnt_2d> points;
-  for_each_point(c.curve_pnts, [&](double x, double y) { points.push_back({x, y}); });
-  return points;
-}
-
-double largest_deviation(const std::vector<pnt_2d> &fine, std::size_t fine_steps) {
-  double largest = 0;
-  for (std::size_t span = 0; span + fine_steps < fine.size(); span += fine_steps + 1) {
-    for (std::size_t i = span; i + 2 <= span + fine_steps; i += 2)
-      largest = std::fmax(largest, deviation(fine[i], fine[i + 2], fine[i + 1]));
+// A spline may jump where a knot stands more than degree times: there it ends, and another one begins.
+std::vector<spline_shape> unbroken_parts(const spline_shape &spline) {
+  const std::size_t order = static_cast<std::size_t>(std::clamp(spline.degree, 0, 15)) + 1,
+                    count = spline.control.size();
+  if (order < 2 || spline.knots.size() != count + order || spline.weights.size() != count) return {spline};
+  const auto part = [](const auto &all, std::size_t from, std::size_t to) {
+    const auto at = [&](std::size_t i) { return all.begin() + static_cast<std::ptrdiff_t>(i); };
+    return std::decay_t<decltype(all)>(at(from), at(to));
+  };
+  std::vector<spline_shape> parts;
+  std::size_t begin = 0;
+  for (std::size_t i = 1; i <= count; ++i) {
+    if (i < count && spline.knots[i] < spline.knots[i + order - 1]) continue;
+    if (i - begin >= order) {
+      parts.push_back({.degree = spline.degree,
+                       .control = part(spline.control, begin, i),
+                       .weights = part(spline.weights, begin, i),
+                       .knots = part(spline.knots, begin, i + order)});
+    }
+    begin = i;
   }
-  return largest;
-}
-
-// The knots as the library takes them: without the first and last, and moved and widened, which leaves the curve the
-// same, because it refuses parameters below zero and leaves out spans up to 1e-7. The factor is a power of two.
-void add_knots(owned_list &list, const std::vector<double> &knots) {
-  if (knots.size() < 3) return;
-  const double range = knots.back() - knots.front();
-  const double factor = range > 0 ? std::exp2(20 - std::ilogb(range)) : 1;
-  for (std::size_t i = 1; i + 1 < knots.size(); ++i) list.add_number((knots[i] - knots.front()) * factor);
+  return parts.empty() ? std::vector{spline} : parts;
 }
 
 std::string definer_meaning(const spline_shape &spline, std::int32_t status) {
@@ -156,85 +146,62 @@ std::string definer_meaning(const spline_shape &spline, std::int32_t status) {
   }
 }
 
-std::string maker_meaning(const spline_shape &spline, std::int32_t status) {
+std::string sampler_meaning(const spline_shape &spline, std::int32_t status) {
+  const std::size_t needed = spline.control.size() + static_cast<std::size_t>(spline.degree) + 1;
   switch (status) {
     case 4:
-    case 5:
-      if (status == 5 && spline.knots.size() >= 3) return "the weight of a point on it is zero";
-      return std::to_string(spline.knots.size()) + " knots, " +
-             std::to_string(spline.control.size() + static_cast<std::size_t>(spline.degree) + 1) + " are needed";
+      if (!std::is_sorted(spline.knots.begin(), spline.knots.end())) return "its knots are not in order";
+      if (spline.knots.size() >= needed) return "its knots leave no span to draw";
+      return std::to_string(spline.knots.size()) + " knots, " + std::to_string(needed) + " are needed";
+    case 5: return "a control point is too far away";
+    case 6: return "a weight is not above zero";
     default: return "";
   }
 }
 
-owned_curve shape_sampler::spline_curve(const spline_shape &spline, int steps) {
+owned_curve shape_sampler::spline_curve(const spline_shape &spline) {
   owned_list control, knots, weights;
   owned_curve c(kx_create_curve());
   if (!c) throw std::bad_alloc();
   for (const vertex &at : spline.control) add(control, at);
-  add_knots(knots, spline.knots);
+  for (std::size_t i = 1; i + 1 < spline.knots.size(); ++i) knots.add_number(spline.knots[i]);
   for (const double weight : spline.weights) weights.add_number(weight);
-  std::int32_t status = kx_def_nurb_curve2d(control.get(), knots.get(), weights.get(), spline.degree, steps, c.get());
-  if (status != 0) {
-    result.fault = status_text("kx_def_nurb_curve2d", status, definer_meaning(spline, status).c_str());
-    return nullptr;
-  }
-  const auto spans = static_cast<std::int32_t>(spline.control.size()) - spline.degree;
-  status = kx_mk_nurb_curve2d(c.get(), 0, 0, spans, steps);
-  if (status != 0) {
-    result.fault = status_text("kx_mk_nurb_curve2d", status, maker_meaning(spline, status).c_str());
-    return nullptr;
-  }
-  return c;
+  const std::int32_t status = kx_def_nurb_curve2d(control.get(), knots.get(), weights.get(), spline.degree, 0, c.get());
+  if (status == 0) return c;
+  result.fault = status_text("kx_def_nurb_curve2d", status, definer_meaning(spline, status).c_str());
+  return nullptr;
 }
 
-// The samples at every other fine step. Spans that join share a point; where they do not, a new path begins.
-void split_spans(const std::vector<pnt_2d> &fine, std::size_t fine_steps, double gap, std::vector<point_path> &paths) {
-  for (std::size_t span = 0; span < fine.size(); span += fine_steps + 1) {
-    const bool joined = span > 0 && kx_distance(&fine[span - 1], &fine[span]) <= gap;
-    if (!joined) paths.emplace_back();
-    for (std::size_t i = joined ? 2 : 0; i <= fine_steps; i += 2)
-      paths.back().points.add_point(fine[span + i].x, fine[span + i].y);
-  }
+// Whether a curve begins where a path ends.
+bool continues(const curve &c, const point_path &path, double gap) {
+  double from = 0, to = 0;
+  pnt_2d begin{}, end{};
+  std::int32_t seqnr = 0;
+  if (kx_curve_range(&c, &from, &to) != 0 || kx_curve_pnt_2d(&c, from, &begin) != 0) return false;
+  kx_get_poly_2d(&seqnr, &end.x, &end.y, static_cast<const poly_2d *>(ll_get_list_data(path.points.get())));
+  return kx_distance(&begin, &end) <= gap;
 }
 
-bool all_finite(const std::vector<pnt_2d> &points) {
-  return std::all_of(points.begin(), points.end(),
-                     [](const pnt_2d &p) { return std::isfinite(p.x) && std::isfinite(p.y); });
-}
-
-// What the library takes but no drawing means.
-std::string spline_fault(const spline_shape &spline, const std::vector<pnt_2d> &points) {
-  if (!std::is_sorted(spline.knots.begin(), spline.knots.end())) return "its knots are not in order";
-  if (spline.knots.size() > spline.control.size() + static_cast<std::size_t>(spline.degree) + 1)
-    return "it has more knots than control points and degree allow";
-  if (std::any_of(spline.weights.begin(), spline.weights.end(), [](double weight) { return weight < 0; }))
-    return "it has a negative weight";
-  if (points.empty()) return "its knots leave no span to draw";
-  return all_finite(points) ? "" : "its points are not finite";
-}
-
-// Takes more steps per span until every point halfway between two samples is close to their chord.
+// A tolerance too fine for the library's largest number of points is made coarser.
 void shape_sampler::operator()(const spline_shape &spline) {
-  const double limit = tolerance * magnify;
-  int steps = spline.degree < 2 ? 1 : 4;
-  while (true) {
-    const owned_curve c = time.measure(call_group::splines, 2, [&] { return spline_curve(spline, 2 * steps); });
+  for (const spline_shape &part : unbroken_parts(spline)) {
+    const owned_curve c = time.measure(call_group::splines, 1, [&] { return spline_curve(part); });
     if (!c) return;
-    const std::vector<pnt_2d> fine = curve_points(*c);
-    result.fault = spline_fault(spline, fine);
-    if (!result.fault.empty()) return;
-    const auto fine_steps = static_cast<std::size_t>(2 * steps);
-    const double astray = largest_deviation(fine, fine_steps);
-    const double more = std::fmax(2.0 * steps, std::ceil(1.05 * steps * std::sqrt(astray / limit)));
-    const bool close = astray <= 0.8 * limit;
-    const bool too_many = 2 * more * static_cast<double>(spline.control.size()) > most_points;
-    if (!close && !too_many) {
-      steps = static_cast<int>(more);
-      continue;
+    if (part.knots.size() > part.control.size() + static_cast<std::size_t>(part.degree) + 1) {
+      result.fault = "it has more knots than control points and degree allow";
+      return;
     }
-    if (!close) result.note = "the tolerance is not reached everywhere";
-    time.measure(call_group::points, 1, [&] { split_spans(fine, fine_steps, limit, result.paths); });
+    double chord = tolerance * magnify;
+    if (result.paths.empty() || !continues(*c, result.paths.back(), chord)) result.paths.emplace_back();
+    const auto sample = [&] { return kx_curve_chordpnts_2d(c.get(), chord, result.paths.back().points.get()); };
+    std::int32_t status = time.measure(call_group::splines, 1, sample);
+    while (status == too_many_points && std::isfinite(chord)) {
+      chord *= 4;
+      result.note = "the tolerance is not reached everywhere";
+      status = time.measure(call_group::splines, 1, sample);
+    }
+    if (status == 0) continue;
+    result.fault = status_text("kx_curve_chordpnts_2d", status, sampler_meaning(part, status).c_str());
     return;
   }
 }

@@ -12,14 +12,16 @@ int main(int count, char **arguments) {
   if (count == 3 && std::strcmp(arguments[1], "-o") == 0) {
     folder = arguments[2];
   } else if (count != 1) {
-    std::cerr << "usage: kxplates [-o FOLDER]\n"
-                 "Draws relationships, polygons and wireframes, each as .svg and .png, into FOLDER (the current one "
-                 "without -o).\n";
+    std::cerr
+        << "usage: kxplates [-o FOLDER]\n"
+           "Draws relationships, polygons, wireframes, curves and curve_tools, each as .svg and .png, into FOLDER (the "
+           "current one without -o).\n";
     return 2;
   }
   try {
     std::filesystem::create_directories(folder);
-    for (const kxplates::plate &plate : {kxplates::relationships(), kxplates::polygons(), kxplates::wireframes()}) {
+    for (const kxplates::plate &plate : {kxplates::relationships(), kxplates::polygons(), kxplates::wireframes(),
+                                         kxplates::curves(), kxplates::curve_tools()}) {
       kxplates::write_plate(folder, plate.name, plate.size, plate.paint);
       for (const std::string &line : plate.told) std::cout << plate.name << ": " << line << '\n';
     }

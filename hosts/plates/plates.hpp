@@ -19,5 +19,7 @@ struct plate {
 plate relationships();
 plate polygons();
 plate wireframes();
+plate curves();
+plate curve_tools();
 
 }  // namespace kxplates

@@ -103,8 +103,8 @@ def placed(entities, blocks, m, found, within=()):
                         placed(blocks[name][1], blocks, inner, found, (*within, name))
 
 
-def spline(groups, count):
-    """The curve by the textbook's recursion, and the parameters of count points spread evenly over each span."""
+def spline(groups):
+    """The curve by the textbook's recursion, and parameters spread evenly over each span."""
     degree, knots = int(one(groups, 71)), values(groups, 40)
     plans = [complex(x, y) for x, y in zip(values(groups, 10), values(groups, 20))]
     control = list(zip(plans, values(groups, 30) or [0.0] * len(plans)))
@@ -123,9 +123,31 @@ def spline(groups, count):
         share = {i: basis(i, degree) * weights[i] for i in range(len(control)) if knots[i] <= u <= knots[i + degree + 1]}
         return tuple(sum(n * control[i][part] for i, n in share.items()) / sum(share.values()) for part in (0, 1))
 
-    steps = (count - 1) // (len(ends) - 1)
-    assert steps * (len(ends) - 1) == count - 1, "points are not spread over the spans"
-    return at, [a + (b - a) * j / steps for a, b in zip(ends, ends[1:]) for j in range(steps)] + [ends[-1]]
+    return at, [a + (b - a) * j / 128 for a, b in zip(ends, ends[1:]) for j in range(128)] + [ends[-1]]
+
+
+def parameters_at(points, curve, us, eps):
+    """The parameters of points that follow each other on a curve; us are parameters that stand close."""
+    near, found, first = [curve(u) for u in us], [], 0
+    for p in points:
+        for i in range(first, len(us)):
+            before, after = max(i - 1, 0), min(i + 1, len(us) - 1)
+            if abs(p - near[i]) > min(abs(p - near[before]), abs(p - near[after])):
+                continue
+            along = (near[after] - near[before]).conjugate()
+            sides = [(((q - p) * along).real, u) for q, u in ((near[before], us[before]), (near[after], us[after]))]
+            u = us[i]
+            for _ in range(20):  # secants to where p is neither before nor behind
+                if abs(p - curve(u)) < eps / 100 or sides[0][0] == sides[1][0]:
+                    break
+                (g, low), (h, high) = sides
+                u = min(max((low * h - high * g) / (h - g), us[before]), us[after])
+                sides = [sides[1], (((curve(u) - p) * along).real, u)]
+            if abs(p - curve(u)) < eps and (not found or u > found[-1] - 1e-9 * (us[-1] - us[0])):
+                found.append(u)
+                first = before
+                break
+    return found
 
 
 def circle(groups):
@@ -208,7 +230,10 @@ class Drawings(unittest.TestCase):
             v += 2 * math.pi * (v <= u)
             self.on_curve(points, ellipse(g), even(u, v, n), m, tolerance, 2e-7 * size)
         elif ent.kind == "SPLINE":
-            self.on_curve(points, *spline(g, n), m, tolerance, eps)
+            curve, us = spline(g)
+            found = parameters_at(points, lambda u: m(curve(u))[0], us, eps)
+            self.on_curve(points, curve, found, m, tolerance, eps)
+            self.assertEqual((found[0], found[-1]), (us[0], us[-1]))
         elif ent.kind == "LINE":
             self.on_polyline([(point(g, code), 0) for code in (10, 11)], points, m, tolerance, eps)
         elif ent.kind in ("LWPOLYLINE", "POLYLINE"):
@@ -260,13 +285,37 @@ class Drawings(unittest.TestCase):
 
     def test_faults_are_named(self):
         table = self.draw(os.path.join(SAMPLES, "faults.dxf"))[0]
-        for words in ("status 3: degree 16", "status 1: 3 control points", "status 4: 6 knots", "status 5", "status 2: 2 weights",
-                      "negative weight", "not in order", "fit points only", "contains itself", "no block of its name",
+        for words in ("status 3: degree 16", "status 1: 3 control points", "status 4: 6 knots", "status 2: 2 weights",
+                      "status 6: a weight", "not in order", "fit points only", "contains itself", "no block of its name",
                       "no block that shows it", "scale factor", "circlepnts_2d gives status 3", "direction has no length",
                       "layer is off", "layer is frozen", "paper space",
                       "invisible", "3  one of its numbers", "announces another number", "polyface", "width"):
             self.assertIn(words, table)
         self.assertIn("skipped", self.run_kxdraw(os.path.join(SAMPLES, "faults.dxf"), "-q").stderr)
+
+    def made(self, shapes):
+        pairs = [(0, "SECTION"), (2, "ENTITIES")]
+        for kind, *groups in shapes:
+            pairs += [(0, kind), (8, "0"), *zip(groups[::2], groups[1::2])]
+        path = os.path.join(self.folder, "made.dxf")
+        with open(path, "w", encoding="ascii") as file:
+            file.writelines(f"{code}\n{value}\n" for code, value in pairs + [(0, "ENDSEC"), (0, "EOF")])
+        return path
+
+    def test_splines_that_jump(self):
+        """An inner knot of degree + 1 lets a spline jump, unless the control points beside it are the same."""
+        for begin, count in (((3, 2), 2), ((2, 0), 1)):
+            control = [(0, 0), (1, 2), (2, 0), begin, (4, 3), (5, 0)]
+            knots = [group for knot in (0, 0, 0, 1, 1, 1, 2, 2, 2) for group in (40, knot)]
+            plans = [group for x, y in control for group in (10, x, 20, y)]
+            paths = self.draw(self.made([("SPLINE", 71, 2, 72, 9, 73, 6, *knots, *plans)]))[2]
+            ends = [point for path in paths for point in (path[4][0], path[4][-1])]
+            self.assertEqual(ends, [0, 2, complex(*begin), 5] if count == 2 else [0, 5])
+            self.assertGreater(min(len(path[4]) for path in paths), 8)
+
+    def test_tolerance_too_fine(self):
+        spline = self.made([("SPLINE", 71, 2, 40, 0, 40, 0, 40, 0, 40, 1, 40, 1, 40, 1, 10, 0, 20, 0, 10, 5, 20, 9, 10, 9, 20, 0)])
+        self.assertIn("the tolerance is not reached", self.run_kxdraw(spline, "-t", "1e-12", "-o", "fine.png").stdout)
 
     def test_small_and_far(self):
         for scale, x in ((1e-9, 0.0), (1e9, 0.0), (1.0, 5e6)):
@@ -274,12 +323,7 @@ class Drawings(unittest.TestCase):
                 shapes = [("CIRCLE", 10, x, 20, 0, 40, scale), ("ARC", 10, x, 20, 0, 40, 2 * scale, 50, 350, 51, 10)]
                 shapes.append(("SPLINE", 71, 2, 72, 6, 73, 3, 40, 0, 40, 0, 40, 0, 40, 1e-8, 40, 1e-8, 40, 1e-8, 10, x, 20, 0,
                                10, x + scale, 20, 3 * scale, 10, x + 2 * scale, 20, 0))
-                pairs = [(0, "SECTION"), (2, "ENTITIES")]
-                for kind, *groups in shapes:
-                    pairs += [(0, kind), (8, "0"), *zip(groups[::2], groups[1::2])]
-                path = os.path.join(self.folder, "made.dxf")
-                with open(path, "w", encoding="ascii") as file:
-                    file.writelines(f"{code}\n{value}\n" for code, value in pairs + [(0, "ENDSEC"), (0, "EOF")])
+                path = self.made(shapes)
                 _, tolerance, paths = self.draw(path)
                 self.assertAlmostEqual(tolerance / scale, 5e-4, 6)
                 self.assertEqual(len(paths), 3)

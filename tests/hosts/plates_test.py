@@ -1,5 +1,5 @@
 """Runs kxplates: every relationship code is drawn once, the two forms of point in polygon agree, what
-viewers see stands where their place says, the files are pictures.
+viewers see and the points of curves stand where they should, the files are pictures.
 
 usage: plates_test.py KXPLATES
 """
@@ -15,7 +15,7 @@ class Plates(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             run = subprocess.run([sys.argv[1], "-o", os.path.join(folder, "new")], capture_output=True, text=True)
             self.assertEqual((run.returncode, run.stderr), (0, ""))
-            for name in ("relationships", "polygons", "wireframes"):
+            for name in ("relationships", "polygons", "wireframes", "curves", "curve_tools"):
                 for ending, start in ((".svg", b"<?xml"), (".png", b"\x89PNG")):
                     with open(os.path.join(folder, "new", name + ending), "rb") as file:
                         self.assertEqual(file.read(len(start)), start)
@@ -25,6 +25,10 @@ class Plates(unittest.TestCase):
         self.assertEqual(run.stdout.count(" 0 disagree"), 3)
         self.assertEqual(run.stdout.count("meets itself"), 4)
         self.assertEqual(run.stdout.count(": 40 points, 0 astray"), 18)
+        curves = [line for line in run.stdout.splitlines() if line.startswith("curve")]
+        self.assertEqual(sum(line.endswith(" points, 0 astray") for line in curves), 37)
+        self.assertEqual(sum(line.endswith(": without gaps") for line in curves), 3)
+        self.assertEqual(len(curves), 43)
 
     def test_arguments(self):
         self.assertEqual(subprocess.run([sys.argv[1], "here"], capture_output=True).returncode, 2)
