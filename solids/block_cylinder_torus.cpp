@@ -2,6 +2,7 @@
 #include "kxgeom/solids.h"
 #include "solids/box.hpp"
 #include "solids/primitive_frame.hpp"
+#include "transform/matrix.hpp"
 
 namespace {
 
@@ -36,11 +37,11 @@ bool torus_vertices(kx::solid_builder &parts, kx::vec3 center, double major, dou
       }))
     return false;
   for (std::int32_t i = 1; i < p; ++i) {
-    const kx::vec2 d = kx::direction_at(kx::full_turn * i / p);
+    const kx::turn d(360.0 * i / p);
     for (std::int32_t j = 0; j < q; ++j) {
       const kx::vec3 profile = parts.point(j);
       const double distance = profile.x - center.x;
-      if (!parts.vertex({center.x + distance * d.x, center.y + distance * d.y, profile.z})) return false;
+      if (!parts.vertex({center.x + distance * d.c, center.y + distance * d.s, profile.z})) return false;
     }
   }
   return true;
@@ -66,11 +67,10 @@ solid *KX_CALL kx_block_pnts(const pnt_3d *center, double size_x, double size_y,
       kind, 8, center, orientation, given, [&](solid &body, block &record, kx::solid_builder &parts) {
         body.face_count = 6;
         body.vertex_count = 8;
-        record.center = *center;
         record.size_x = size_x;
         record.size_y = size_y;
         record.size_z = size_z;
-        kx::set_extents(body, kx::value(*center), {0.5 * size_x, 0.5 * size_y, 0.5 * size_z});
+        kx::set_extents(body, kx::value(record.center), {0.5 * size_x, 0.5 * size_y, 0.5 * size_z});
         return kx::build_box(parts, {body.xmin, body.ymin, body.zmin}, {body.xmax, body.ymax, body.zmax}, 1);
       });
 }
@@ -80,19 +80,19 @@ solid *KX_CALL kx_cylinder_pnts(const pnt_3d *center, double diameter_x, double 
   constexpr kx::primitive_kind kind{KX_SOLID_CYLINDER, "kx_cylinder_pnts", "kx_create_cylinder"};
   if (sectors == nullptr) return nullptr;
   const std::int64_t adjusted = kx::section_sectors(diameter_x, diameter_y, *sectors);
+  if (center == nullptr || 2 * adjusted + 2 > KX_SOLID_VERTICES_MOST) return nullptr;
+  const auto n = static_cast<std::int32_t>(adjusted);
+  *sectors = n;
   return kx::build_primitive<cylinder>(
       kind, 2 * adjusted + 2, center, orientation, given, [&](solid &body, cylinder &record, kx::solid_builder &parts) {
-        const auto n = static_cast<std::int32_t>(adjusted);
-        *sectors = n;
         // Without the two centres and with each cap as one face, on purpose: hosts show these as the body's own.
         body.face_count = n + 2;
         body.vertex_count = 2 * n;
-        record.center = *center;
         record.diameter_x = diameter_x;
         record.diameter_y = diameter_y;
         record.height = height;
         record.sectors = n;
-        const kx::vec3 c = kx::value(*center), half{0.5 * diameter_x, 0.5 * diameter_y, 0.5 * height};
+        const kx::vec3 c = kx::value(record.center), half{0.5 * diameter_x, 0.5 * diameter_y, 0.5 * height};
         kx::set_extents(body, c, half);
         return cylinder_vertices(parts, {{c.x, c.y, c.z + half.z}, half.x, half.y}, c.z - half.z, n) &&
                cylinder_faces(parts, n);
@@ -109,12 +109,11 @@ solid *KX_CALL kx_torus_pnts(const pnt_3d *center, double radius_1, double radiu
         const bool in_order = kx::less_equal(radius_2, radius_1);
         const double major = in_order ? radius_1 : radius_2, minor = in_order ? radius_2 : radius_1;
         body.face_count = body.vertex_count = p * q;
-        record.center = *center;
         record.major_radius = major;
         record.minor_radius = minor;
         record.sectors = p;
         record.tube_sectors = q;
-        const kx::vec3 c = kx::value(*center);
+        const kx::vec3 c = kx::value(record.center);
         kx::set_extents(body, c, {major + minor, major + minor, minor});
         // The tube's radius is added here too, on purpose: hosts frame their views by this box.
         body.xmin = c.x - major + minor;

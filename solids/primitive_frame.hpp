@@ -40,19 +40,20 @@ inline void keep_what_can_be_cleared(solid &body) {
 }
 
 // A primitive in the orientation that its builder was given: as it is when the vector's fields direction and length are
-// both 0, whatever its components are, or when it is null.
-inline solid *oriented(solid *body, const vector_3d *orientation) {
-  if (orientation == nullptr || (near_zero(orientation->direction) && near_zero(orientation->length))) return body;
-  return kx_transform_solid_vector(body, orientation);
+// both 0, whatever its components are.
+inline solid *oriented(solid *body, const vector_3d &orientation) {
+  if (near_zero(orientation.direction) && near_zero(orientation.length)) return body;
+  return kx_transform_solid_vector(body, &orientation);
 }
 
 // Builds a primitive into the solid given, which is cleared first, or into a new one when that is null:
 //
 //   build(solid &body, T &record, solid_builder &parts) -> bool
 //
-// fills in the record (its axis is z already), the counts and the extents, which are 0, and appends vertices and faces.
-// It stops with false when a part cannot be created: the part-built solid is the result all the same, hosts draw what
-// there is of it. `vertices` is how many it makes at most. The solid is then turned into its orientation.
+// fills in the record (its centre is set and its axis is z already), the counts and the extents, which are 0, and
+// appends vertices and faces. It stops with false when a part cannot be created: the part-built solid is the result all
+// the same, hosts draw what there is of it. `vertices` is how many it makes at most. The solid is then turned into its
+// orientation.
 //
 // Null, a given solid untouched, for more than KX_SOLID_VERTICES_MOST vertices or no centre; null, a given solid empty,
 // without lists, after a memory message.
@@ -60,6 +61,9 @@ template <class T, class Build>
 solid *build_primitive(const primitive_kind &kind, std::int64_t vertices, const pnt_3d *center,
                        const vector_3d *orientation, solid *given, Build build) {
   if (center == nullptr || vertices > KX_SOLID_VERTICES_MOST) return nullptr;
+  // Copies: both may be part of what the given solid is cleared of.
+  const pnt_3d middle = *center;
+  const vector_3d turned = orientation ? *orientation : vector_3d{};
   solid *body = given ? given : kx_create_solid();
   if (body == nullptr) {
     report_no_memory(kind.builder);
@@ -73,9 +77,10 @@ solid *build_primitive(const primitive_kind &kind, std::int64_t vertices, const 
   T *record = body->vertex_list ? create_primitive<T>(kind.record) : nullptr;
   body->solid_data = record;
   if (record) {
+    record->center = middle;
     if (solid_builder parts(*body, vertices); parts) {
       if (!build(*body, *record, parts)) keep_what_can_be_cleared(*body);
-      return oriented(body, orientation);
+      return oriented(body, turned);
     }
     report_no_memory(kind.builder);
   }

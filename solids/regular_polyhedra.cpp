@@ -20,9 +20,8 @@ solid *regular(const kx::primitive_kind &kind, std::int32_t vertices, std::int32
                                           [&](solid &body, tetrahedron &record, solid_builder &parts) {
                                             body.face_count = faces;
                                             body.vertex_count = vertices;
-                                            record.center = *center;
                                             record.size = size;
-                                            const bool done = build(parts, kx::value(*center));
+                                            const bool done = build(parts, kx::value(record.center));
                                             kx::start_extents(body);
                                             for (std::int32_t i = 0; i < parts.count(); ++i)
                                               kx::hold(body, parts.point(i));

@@ -10,13 +10,12 @@ namespace kx {
 template <class T, class Append>
 solid *build_whole(const primitive_kind &kind, std::int64_t vertices, const pnt_3d *center,
                    const vector_3d *orientation, solid *given, T values, Append append) {
-  // A copy: the centre may be that of the record which is freed with the solid's old contents.
-  if (center) values.center = *center;
   if constexpr (requires { values.axis_z; }) values.axis_z = 1.0;
   return build_primitive<T>(kind, vertices, center, orientation, given,
                             [&](solid &body, T &record, solid_builder &parts) {
+                              values.center = record.center;
                               record = values;
-                              const bool all = append(parts, value(values.center));
+                              const bool all = append(parts, value(record.center));
                               body.face_count = body.face_list->count;
                               body.vertex_count = parts.count();
                               start_extents(body);
