@@ -9,6 +9,10 @@
 // A line for each fault; 1 when there was one.
 #include "sweep.hpp"
 
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <cfenv>
 #include <chrono>
 #include <cstdio>
@@ -21,12 +25,6 @@
 #include <thread>
 
 #include "blocks.hpp"
-
-#if !defined(_WIN32)
-#include <sys/mman.h>
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
 
 namespace sweep {
 namespace {
@@ -168,17 +166,6 @@ class reporter {
   std::set<std::string> told_;
 };
 
-#if defined(_WIN32)
-// One process for all: the first crash ends it, its case is the last one begun.
-bool examine(const function &f, bool faults) {
-  reporter report;
-  for (const run &r : runs_of(f, faults)) {
-    const std::string fault = fault_of(f, r);
-    if (!fault.empty()) report.tell(f, r, fault);
-  }
-  return !report.any();
-}
-#else
 // A process for each function, and another one behind each case that ends it.
 bool examine(const function &f, bool faults) {
   static volatile long *begun = static_cast<volatile long *>(
@@ -218,7 +205,6 @@ bool examine(const function &f, bool faults) {
   }
   return false;
 }
-#endif
 
 bool in_threads(const std::vector<const function *> &chosen) {
   std::vector<std::thread> threads;
