@@ -1,18 +1,19 @@
 // The plates: what is on each is computed first, so that it can be told as well as drawn.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "sheet.hpp"
+#include "sheet/sheet.hpp"
 
 namespace kxplates {
+
+using namespace kxsheet;
 
 struct plate {
   std::string name;
   spot size;
-  std::function<void(const sheet &)> paint;
+  painting paint;
   std::vector<std::string> told;  // what the library answered, in lines
 };
 

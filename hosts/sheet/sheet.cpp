@@ -6,7 +6,7 @@
 #include <memory>
 #include <stdexcept>
 
-namespace kxplates {
+namespace kxsheet {
 
 namespace {
 
@@ -15,7 +15,7 @@ constexpr double full_turn = 6.283185307179586;
 using surface = std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)>;
 using context = std::unique_ptr<cairo_t, decltype(&cairo_destroy)>;
 
-void fill_page(cairo_surface_t *target, double scale, const std::function<void(const sheet &)> &paint) {
+void fill_page(cairo_surface_t *target, double scale, const painting &paint) {
   const context page(cairo_create(target), &cairo_destroy);
   cairo_scale(page.get(), scale, scale);
   cairo_set_source_rgb(page.get(), paper.red, paper.green, paper.blue);
@@ -65,6 +65,18 @@ void sheet::line(spot from, spot to, double width, color c, bool dashed) const {
   cairo_set_dash(page_, nullptr, 0, 0);
 }
 
+void sheet::sides(const std::vector<spot> &corners, const std::vector<bool> &drawn, double width, color c) const {
+  use(c);
+  cairo_set_line_width(page_, width);
+  cairo_new_path(page_);
+  for (std::size_t i = 0; i < corners.size(); ++i) {
+    const spot &to = corners[(i + 1) % corners.size()];
+    if (i == 0 || !drawn[i - 1]) cairo_move_to(page_, corners[i].x, corners[i].y);
+    if (drawn[i]) cairo_line_to(page_, to.x, to.y);
+  }
+  cairo_stroke(page_);
+}
+
 // The tip is exactly at the end.
 void sheet::arrow(spot from, spot to, double width, color c) const {
   const double length = std::hypot(to.x - from.x, to.y - from.y), head = 4.2 * width, half = 1.7 * width;
@@ -94,6 +106,7 @@ void sheet::ring(spot at, double radius, double width, color c) const {
 }
 
 void sheet::polygon(const std::vector<spot> &corners, color c, double opacity, double width) const {
+  cairo_new_path(page_);
   for (const spot &corner : corners) cairo_line_to(page_, corner.x, corner.y);
   cairo_close_path(page_);
   use(c, opacity);
@@ -103,22 +116,27 @@ void sheet::polygon(const std::vector<spot> &corners, color c, double opacity, d
   cairo_stroke(page_);
 }
 
-void write_plate(const std::string &folder, const std::string &name, spot size,
-                 const std::function<void(const sheet &)> &paint) {
-  const std::string svg = folder + "/" + name + ".svg", png = folder + "/" + name + ".png";
-  const surface drawing(cairo_svg_surface_create(svg.c_str(), size.x, size.y), &cairo_surface_destroy);
-  check(svg, cairo_surface_status(drawing.get()));
+void write_svg(const std::string &path, spot size, const painting &paint) {
+  const surface drawing(cairo_svg_surface_create(path.c_str(), size.x, size.y), &cairo_surface_destroy);
+  check(path, cairo_surface_status(drawing.get()));
   cairo_svg_surface_set_document_unit(drawing.get(), CAIRO_SVG_UNIT_PX);
   fill_page(drawing.get(), 1, paint);
   cairo_surface_finish(drawing.get());
-  check(svg, cairo_surface_status(drawing.get()));
+  check(path, cairo_surface_status(drawing.get()));
+}
 
+void write_png(const std::string &path, spot size, const painting &paint) {
   constexpr int fine = 2;
   const auto pixels = [](double side) { return fine * static_cast<int>(side); };
   const surface image(cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels(size.x), pixels(size.y)),
                       &cairo_surface_destroy);
   fill_page(image.get(), fine, paint);
-  check(png, cairo_surface_write_to_png(image.get(), png.c_str()));
+  check(path, cairo_surface_write_to_png(image.get(), path.c_str()));
 }
 
-}  // namespace kxplates
+void write_plate(const std::string &folder, const std::string &name, spot size, const painting &paint) {
+  write_svg(folder + "/" + name + ".svg", size, paint);
+  write_png(folder + "/" + name + ".png", size, paint);
+}
+
+}  // namespace kxsheet

@@ -1,4 +1,4 @@
-// A page to draw on, and its two files.
+// A page to draw on, and its files.
 #pragma once
 
 #include <cairo.h>
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace kxplates {
+namespace kxsheet {
 
 struct color {
   double red, green, blue;
@@ -33,14 +33,21 @@ class sheet {
   void ring(spot at, double radius, double width, color c) const;
   // Filled as opaque as asked for, its outline drawn in the same color.
   void polygon(const std::vector<spot> &corners, color c, double opacity, double width) const;
+  // The sides of a polygon, from each corner to the next, that are to be drawn.
+  void sides(const std::vector<spot> &corners, const std::vector<bool> &drawn, double width, color c) const;
 
  private:
   void use(color c, double opacity = 1) const { cairo_set_source_rgba(page_, c.red, c.green, c.blue, opacity); }
   cairo_t *page_;
 };
 
-// Writes FOLDER/NAME.svg and, twice as fine, FOLDER/NAME.png. Throws std::runtime_error when one cannot be written.
-void write_plate(const std::string &folder, const std::string &name, spot size,
-                 const std::function<void(const sheet &)> &paint);
+using painting = std::function<void(const sheet &)>;
 
-}  // namespace kxplates
+// Write a page of that size; a PNG is twice as fine. They throw std::runtime_error when it cannot be written.
+void write_svg(const std::string &path, spot size, const painting &paint);
+void write_png(const std::string &path, spot size, const painting &paint);
+
+// Writes FOLDER/NAME.svg and FOLDER/NAME.png.
+void write_plate(const std::string &folder, const std::string &name, spot size, const painting &paint);
+
+}  // namespace kxsheet
