@@ -71,7 +71,7 @@ numbers joints(const curve &c) {
   check(kx_curve_range(&c, &from, &to));
   numbers found{from};
   if (c.curve_type < 93) {
-    for (double t = from + 1; t < to; ++t) found.push_back(t);
+    while (found.back() + 1 < to) found.push_back(found.back() + 1);
   } else if (ll_get_list_count(c.knots) > 0) {
     ll_set_list_currpntr(c.knots, 0);
     do {
@@ -224,16 +224,20 @@ void draw(const sheet &page, spot corner, const figure &f) {
 
 plate page_of(const std::string &name, const std::string &title, const std::string &words, std::vector<figure> figures,
               std::vector<std::string> told) {
-  const auto rows = static_cast<double>((figures.size() + columns - 1) / columns);
+  const std::size_t rows = (figures.size() + columns - 1) / columns;
+  const double page_height = top + static_cast<double>(rows) * (cell_size.y + gap) - gap + margin;
   const auto paint = [title, words, all = std::move(figures)](const sheet &page) {
     page.text({margin, 44}, title, 22, ink, true);
     page.text({margin, 68}, words, 13, pale);
     for (std::size_t i = 0; i < all.size(); ++i) {
-      const auto column = static_cast<double>(i % columns), row = static_cast<double>(i / columns);
-      draw(page, {margin + column * (cell_size.x + gap), top + row * (cell_size.y + gap)}, all[i]);
+      const std::size_t column = i % columns, row = i / columns;
+      draw(page,
+           {margin + static_cast<double>(column) * (cell_size.x + gap),
+            top + static_cast<double>(row) * (cell_size.y + gap)},
+           all[i]);
     }
   };
-  return {name, {page_width, top + rows * (cell_size.y + gap) - gap + margin}, paint, std::move(told)};
+  return {name, {page_width, page_height}, paint, std::move(told)};
 }
 
 }  // namespace kxplates
