@@ -166,10 +166,16 @@ class reporter {
   std::set<std::string> told_;
 };
 
+// What a process tells the one that began it: the case under way, and how many there were.
+struct told {
+  volatile long begun, calls;
+};
+told *const progress =
+    static_cast<told *>(mmap(nullptr, sizeof(told), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+
 // A process for each function, and another one behind each case that ends it.
 bool examine(const function &f, bool faults) {
-  static volatile long *begun = static_cast<volatile long *>(
-      mmap(nullptr, sizeof(long), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+  volatile long *begun = &progress->begun;
   bool sound = true;
   long from = 0;
   for (int crashes = 0; crashes < most_faults; ++crashes) {
@@ -180,6 +186,7 @@ bool examine(const function &f, bool faults) {
       const std::vector<run> all = runs_of(f, faults);
       for (long n = from; n < static_cast<long>(all.size()); ++n) {
         *begun = n;
+        progress->calls = progress->calls + 1;
         alarm(10);
         const std::string fault = fault_of(f, all[static_cast<std::size_t>(n)]);
         if (!fault.empty()) report.tell(f, all[static_cast<std::size_t>(n)], fault);
@@ -213,6 +220,7 @@ bool in_threads(const std::vector<const function *> &chosen) {
     threads.emplace_back([&, t] {
       for (int seed = 0; seed < 6; ++seed) {
         for (const function *f : chosen) failed[t] += !fault_of(*f, {seed}).empty();
+        if (t == 0) progress->calls = progress->calls + static_cast<long>(failed.size() * chosen.size());
       }
     });
   }
@@ -260,6 +268,6 @@ int main(int argc, char **argv) {
   } else {
     for (const function *f : chosen) faulty += !examine(*f, mode == "faults");
   }
-  std::printf("%zu functions, %d faulty\n", chosen.size(), faulty);
+  std::printf("%zu functions, %ld calls, %d faulty\n", chosen.size(), progress->calls, faulty);
   return faulty != 0;
 }
