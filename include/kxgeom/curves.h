@@ -585,7 +585,8 @@ KX_API curve *KX_CALL kx_def_ubetaspl_curve(list_hdr *ctrl, double b1, double b2
 /**
  * Makes a curve a uniform beta-spline in the plane (91), which kx_mk_ucurve samples: type and basis are written, the
  * control points taken over. With bias 1 and tension 0 the basis is that of the uniform cubic B-spline save for one
- * element, the third of the second row: 5/12 in place of 1/2. The two differ by t^2/12 of the third control point.
+ * element, the third of the second row: 5/12 in place of 1/2. The two differ by t^2/12 of the third control point. For
+ * that element neighbouring segments meet only where 4 b1^2 + 2 b2 = 3.
  * @param[in,out] ctrl  control points; an empty list afterwards, whose count is left as it was
  * @param[in,out] c  the curve
  * @param[in] b1  bias
