@@ -93,6 +93,9 @@ class rightmost_search {
   std::int32_t block_ = 0;
 };
 
+// Of edges whose ends lie on different sides of a height.
+constexpr auto not_level = kx::ray_edge::slope::not_level;
+
 // The edges that end at the vertices of a block and cross: `now` says which of those lie above, `before` is the vertex
 // ahead of the block and was_above its bit.
 bool odd_crossings(kx::vec2 p, const pnt_2d &before, bits was_above, const pnt_2d *v, std::int32_t n, bits now) {
@@ -101,7 +104,7 @@ bool odd_crossings(kx::vec2 p, const pnt_2d &before, bits was_above, const pnt_2
   if (n < block) change &= (bits{1} << n) - 1;
   for (; change; change &= change - 1) {
     const int k = std::countr_zero(change);
-    odd ^= kx::ray_edge(kx::value(k ? v[k - 1] : before), kx::value(v[k])).crossed_from(p);
+    odd ^= kx::ray_edge(kx::value(k ? v[k - 1] : before), kx::value(v[k]), not_level).crossed_from(p);
   }
   return odd;
 }
@@ -134,7 +137,7 @@ bool odd_crossings_of_few(kx::vec2 p, const pnt_2d *v, std::int32_t n, std::int3
   const auto look_at = [&](const pnt_2d &before, const pnt_2d &at) {
     const bool is_above = !(at.y <= p.y);
     if (is_above != was_above) {
-      odd ^= kx::ray_edge(kx::value(before), kx::value(at)).crossed_from(p);
+      odd ^= kx::ray_edge(kx::value(before), kx::value(at), not_level).crossed_from(p);
       was_above = is_above;
     }
     if (!(least > at.x)) [[unlikely]] {

@@ -15,14 +15,16 @@ struct ray_edge {
   vec2 a, b;
   double bottom, top, left, right, inverse;  // inverse of the height, with its sign; 1 of a level edge
 
-  ray_edge(vec2 from, vec2 to)
+  enum class slope { any, not_level };
+
+  ray_edge(vec2 from, vec2 to, slope known = slope::any)
       : a(from),
         b(to),
         bottom(a.y < b.y ? a.y : b.y),
         top(a.y > b.y ? a.y : b.y),
         left(a.x < b.x ? a.x : b.x),
         right(a.x > b.x ? a.x : b.x),
-        inverse(1.0 / (b.y == a.y ? 1.0 : b.y - a.y)) {}
+        inverse(1.0 / (known == slope::any && b.y == a.y ? 1.0 : b.y - a.y)) {}
 
   // Where the edge's carrier stands at a height, unless the edge is level.
   double abscissa(double y) const { return (a.x * (b.y - y) + b.x * (y - a.y)) * inverse; }
