@@ -10,7 +10,7 @@ void check_span(const std::vector<double> &knots, std::int32_t degree, double t)
   const auto last = static_cast<std::int32_t>(knots.size()) - 1;
   for (const std::int32_t side : {-1, 0}) {
     const std::int32_t span = kx_findknotspan(knots.data(), last, degree, t, side);
-    REQUIRE(span == -1 || (span >= degree - 1 && span <= last));
+    REQUIRE(span >= -1 && span <= last);
     if (degree < 0 || degree > 15 || span < degree - 1 || span + degree > last) continue;
     double out[48];
     REQUIRE(kx_basisfunctions(knots.data(), span, degree, t, 2, out) == 0);
