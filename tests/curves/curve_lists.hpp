@@ -9,6 +9,7 @@
 #include <new>
 #include <vector>
 
+#include "curves/curve_record.hpp"
 #include "kxgeom/curves.h"
 #include "kxgeom/list.h"
 #include "kxgeom/records.h"
@@ -68,14 +69,15 @@ struct held {
   list_hdr *operator->() const { return list; }
 };
 
-// A curve from a plane definer, and one from kx_def_nurb_curve; the emptied headers are freed.
-template <class Definer>
-curve *uniform(Definer define, int n, int32_t tag = KX_POLY_2D) {
+// A curve from a plane or a space definer, and one from kx_def_nurb_curve; the emptied headers are freed.
+inline curve *uniform(int32_t(KX_CALL *define)(list_hdr *, curve *), int n, int32_t tag = KX_POLY_2D) {
+  const held list{points(tag, n)};
   curve *c = kx_create_curve();
-  list_hdr *list = points(tag, n);
   EXPECT_EQ(define(list, c), 0);
-  EXPECT_EQ(ll_purge_list(list), 0);
   return c;
+}
+inline curve *uniform(curve *(KX_CALL *define)(list_hdr *), int n, int32_t tag = KX_POLY_3D) {
+  return define(held{points(tag, n)});
 }
 
 inline curve *nurbs(int32_t tag, int n, int degree, const std::vector<double> &knots,
@@ -103,7 +105,6 @@ struct owner {
 // What a definer is given.
 struct lists {
   list_hdr *ctrl, *knots, *weights;
-  curve *c = nullptr;
 
   lists(int32_t tag, int n, size_t knot_count, size_t weight_count)
       : ctrl(points(tag, n)),
@@ -115,17 +116,44 @@ struct lists {
   }
 };
 
-// A definer without memory makes no curve and leaves the lists.
-template <class Setup, class Define>
-void expect_all_or_nothing(Setup setup, Define define, int allocations) {
-  const auto check = [](int n, lists in, curve *c) {
-    EXPECT_TRUE((c == nullptr) == (n > 0) && kx::empty(in.ctrl) == (n == 0));
-    EXPECT_TRUE(n == 0 || in.count() == 14);
-    if (c != in.c) free_curve(in.c);
-    free_curve(c);
-    in.release();
+// What a call is given, and the curves it makes.
+struct things {
+  std::vector<curve *> curves;
+  std::vector<list_hdr *> lists;
+
+  std::vector<size_t> counts() const {
+    std::vector<const list_hdr *> all(lists.begin(), lists.end());
+    for (const curve *c : curves)
+      for (const list_hdr *list : kx::lists_of(*c)) all.push_back(list);
+    std::vector<size_t> n;
+    for (const list_hdr *list : all) {
+      n.push_back(0);
+      for (const list_item *i = list ? list->head : nullptr; i; i = i->next) ++n.back();
+    }
+    return n;
+  }
+  int32_t keep(curve *c) {
+    if (c) curves.push_back(c);
+    return c ? 0 : 80;
+  }
+};
+
+// A call without memory answers 80 with one message, makes nothing and leaves every list as it was. The first `quiet`
+// allocations fail without the message.
+template <class Setup, class Call>
+void expect_all_or_nothing(Setup setup, Call call, int allocations, int quiet = 0) {
+  const auto changed = [&](things &all) {
+    const auto before = all.counts();
+    const int32_t code = call(all);
+    return std::pair{code, all.counts() != before};
   };
-  EXPECT_EQ(faults::fail_each_allocation(setup, define, check), allocations);
+  const auto check = [=](int n, things all, std::pair<int32_t, bool> result) {
+    EXPECT_TRUE(result.first == (n > 0 ? 80 : 0) && result.second == (n == 0));
+    EXPECT_EQ(faults::messages().size(), n > quiet);
+    for (curve *c : all.curves) free_curve(c);
+    for (list_hdr *list : all.lists) release(list);
+  };
+  EXPECT_EQ(faults::fail_each_allocation(setup, changed, check), allocations);
 }
 
 // Sampling without memory keeps the samples made so far. The allocations `before` them begin with the two output lists.

@@ -25,12 +25,14 @@ inline void set_basis(curve *c) {
   for (int i = 0; i < 16; ++i) c->basis[i] = b[i + 1] / b[0];
 }
 
+// Of degree 2 and 5 without numbers in the control points.
 inline curve *make(int32_t type, const std::vector<pnt_3d> &points, int degree, const std::vector<double> &knots = {},
                    const std::vector<double> &weights = {}) {
   curve *c = kx_create_curve();
   c->curve_type = type;
   c->degree = degree;
-  const int32_t tag = in_space(type) ? KX_POLY_3D : KX_POLY_2D;
+  const bool plain = degree == 2 || degree == 5;
+  const int32_t tag = in_space(type) ? (plain ? KX_PNT_3D : KX_POLY_3D) : plain ? KX_PNT_2D : KX_POLY_2D;
   for (const pnt_3d &p : points) kx::append(*c->ctrl_pnts, kx::create_point(tag, p, 7), tag);
   const auto fill = [](list_hdr *list, const std::vector<double> &values) {
     for (double v : values) kx::append(*list, new (kx_create_rnumber()) rnumber{v}, KX_RNUMBER);
@@ -107,9 +109,16 @@ inline std::vector<piece> pieces(const curve *c) {
   return all;
 }
 
+inline double apart(const pnt_3d &a, const pnt_3d &b) { return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z); }
+
 // What the plane and the space function of a pair answer, with three coordinates.
 inline pnt_3d widened(const pnt_2d &p) { return {p.x, p.y, 0}; }
-inline double apart(const pnt_3d &a, const pnt_3d &b) { return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z); }
+inline std::vector<pnt_3d> widened(const std::vector<double> &flat, bool space) {
+  std::vector<pnt_3d> all;
+  for (size_t i = 0, d = space ? 3 : 2; i + d <= flat.size(); i += d)
+    all.push_back({flat[i], flat[i + 1], space ? flat[i + 2] : 0});
+  return all;
+}
 
 inline pnt_3d point(const curve *c, double t) {
   pnt_2d flat{};
@@ -118,26 +127,33 @@ inline pnt_3d point(const curve *c, double t) {
   return in_space(c->curve_type) ? p : widened(flat);
 }
 
+// A point and n derivatives.
+inline std::vector<pnt_3d> derivatives(const curve *c, double t, int32_t n) {
+  const bool space = in_space(c->curve_type);
+  std::vector<double> flat((static_cast<size_t>(n) + 1) * (space ? 3 : 2));
+  EXPECT_EQ(space ? kx_curve_derivs_3d(c, t, n, flat.data()) : kx_curve_derivs_2d(c, t, n, flat.data()), 0);
+  return widened(flat, space);
+}
+
 struct range {
   double from, to;
   explicit range(const curve *c) { EXPECT_EQ(kx_curve_range(c, &from, &to), 0); }
 };
 
-// Calls test(curve) for a wavy curve of every kind and several degrees, and again with points in a circle, on a line
-// and all at one place.
+// Calls test(curve) for a wavy curve of every kind and several degrees.
 template <class Test>
-void for_each_curve(Test test) {
+void for_each_curve(Test test, std::initializer_list<int> degrees = {1, 2, 3, 5}) {
   for (const auto &types : {plane_types, space_types})
     for (int i = 0; i < 7; ++i)
-      for (int degree : {1, 2, 3, 5}) {
+      for (int degree : degrees) {
         const int32_t type = types[i];
         if (degree != 3 && !knotted(type) && !one_piece(type)) continue;
         SCOPED_TRACE(testing::Message() << "type " << type << " degree " << degree);
-        test(owner{wavy(type, degree, one_piece(type) ? degree + 1 : 9)});
+        test(owner{wavy(type, degree, one_piece(type) ? degree + 1 : std::max(9, degree + 4))});
       }
 }
 
-// A quarter, or with four pieces a whole circle of radius r, as a rational curve of degree 2; and as one of degree 4.
+// A whole circle of radius r: four pieces of a rational curve of degree 2.
 inline curve *circle(double r, bool space = false) {
   const double h = std::sqrt(0.5);
   std::vector<pnt_3d> points;

@@ -50,18 +50,23 @@ TEST(nurbs_definers, check_in_order) {
 }
 
 TEST(nurbs_definers, dispatch_by_datatype) {
+  const message_folder folder;
   for (int32_t tag : {KX_PNT_2D, KX_POLY_2D, KX_PNT_3D, KX_POLY_3D}) {
-    const lists in(tag, 4, 6, 4);
-    EXPECT_EQ(kx_def_nurb_curve(in.ctrl, in.knots, in.weights, 4, 1), nullptr);
-    EXPECT_EQ(kx_def_nurb_curve(in.knots, in.knots, in.weights, 3, 1), nullptr);
-    EXPECT_EQ(in.count(), 14);
+    const lists in(tag, 4, 6, 4), other(tag, 4, 6, 0);
+    const int space = kx::is_space_point(tag);
+    EXPECT_FALSE(kx_def_nurb_curve(in.ctrl, in.knots, in.weights, 4, 1) ||
+                 kx_def_nurb_curve(in.knots, in.knots, in.weights, 3, 1));
+    faults::clear_messages();
+    EXPECT_FALSE(kx_def_nubspl_curve(other.ctrl, other.knots, 16, 1) ||
+                 kx_def_nubspl_curve(other.knots, other.knots, 3, 1));
+    EXPECT_EQ(faults::messages().size(), static_cast<size_t>(space));
+    EXPECT_TRUE(in.count() == 14 && !kx::empty(other.ctrl) && !kx::empty(other.knots));
     const owner c{kx_def_nurb_curve(in.ctrl, in.knots, in.weights, 3, 1)};
-    EXPECT_TRUE(c->curve_type == (kx::is_plane_point(tag) ? 94 : 95) && in.count() == 0);
-    in.release();
+    const owner d{kx_def_nubspl_curve(other.ctrl, other.knots, 3, 1)};
+    EXPECT_TRUE(c->curve_type == 94 + space && in.count() == 0 && d->curve_type == (space ? 98 : 93));
+    EXPECT_TRUE(kx::empty(other.ctrl) && kx::empty(other.knots));
+    in.release(), other.release();
   }
-  EXPECT_EQ(kx_def_nurb_curve(nullptr, nullptr, nullptr, 3, 1), nullptr);
-  EXPECT_EQ(kx_def_nurb_curve2d(nullptr, nullptr, nullptr, 3, 1, nullptr), 4);
-  EXPECT_EQ(kx_def_nubspl_curve2d(nullptr, nullptr, 3, 1, nullptr), 4);
 }
 
 TEST(nurbs_definers, take_lists_of_the_curve_itself) {
@@ -75,8 +80,11 @@ TEST(nurbs_definers, take_lists_of_the_curve_itself) {
 }
 
 TEST(nurbs_definers, leave_the_lists_when_memory_runs_out) {
-  const auto nurbs = [](lists in) { return kx_def_nurb_curve(in.ctrl, in.knots, in.weights, 3, 1); };
-  const auto bspline = [](lists in) { return kx_def_nubspl_curve3d(in.ctrl, in.knots, 3, 1); };
-  for (const auto &define : {+nurbs, +bspline})
-    expect_all_or_nothing([] { return lists(KX_POLY_3D, 4, 6, 4); }, define, 6);
+  const auto setup = [] {
+    return things{{}, {points(KX_POLY_3D, 4), numbers(std::vector<double>(6)), numbers({1, 1, 1, 1})}};
+  };
+  const auto nurbs = [](things &a) { return a.keep(kx_def_nurb_curve(a.lists[0], a.lists[1], a.lists[2], 3, 1)); };
+  const auto bspline = [](things &a) { return a.keep(kx_def_nubspl_curve3d(a.lists[0], a.lists[1], 3, 1)); };
+  expect_all_or_nothing(setup, nurbs, 6);
+  expect_all_or_nothing(setup, bspline, 6);
 }
