@@ -25,6 +25,13 @@ std::vector<stats> statistics(const list_hdr *list) {
   return all;
 }
 
+// By the maker of its kind, `steps` to a piece.
+int32_t sample(curve *c, int32_t steps) {
+  if (c->curve_type < 93) return kx_mk_ucurve(c, 1.0 / steps);
+  if (one_piece(c->curve_type)) return kx_mk_ratbezier_curve(c, 1.0 / steps);
+  return (c->curve_type % 5 == 3 ? kx_mk_nubspline : kx_mk_nurb_curve)(c, 0, 0, c->ctrl_pnts->count - c->degree, steps);
+}
+
 kx::vec3 direction(const kx::vec3 &v) { return length(v) < 1e-7 ? kx::vec3{} : v / length(v); }
 
 }  // namespace
@@ -56,13 +63,9 @@ TEST(curve_evaluation, agrees_with_a_second_way) {
 TEST(curve_evaluation, meets_the_makers) {
   for_each_curve(
       [](curve *c) {
-        const int32_t type = c->curve_type, spans = c->ctrl_pnts->count - c->degree;
+        const int32_t type = c->curve_type;
         const auto all = pieces(c);
-        EXPECT_EQ(type < 93         ? kx_mk_ucurve(c, 0.25)
-                  : one_piece(type) ? kx_mk_ratbezier_curve(c, 0.25)
-                  : type % 5 == 3   ? kx_mk_nubspline(c, 0, 0, spans, 4)
-                                    : kx_mk_nurb_curve(c, 0, 0, spans, 4),
-                  0);
+        EXPECT_EQ(sample(c, 4), 0);
         const auto points = curve_lists::coordinates(c->curve_pnts);
         const auto have =
             in_space(type) ? statistics<curve_stats_3d>(c->curve_stats) : statistics<curve_stats_2d>(c->curve_stats);
@@ -166,4 +169,19 @@ TEST(curve_evaluation, refuses_what_is_no_curve) {
   const double t[] = {1, 2, nan};
   EXPECT_TRUE(kx_curve_pntsat_2d(c, t, 3, row) == 7 && kx_curve_pntsat_2d(c, t, -1, row) == 8);
   EXPECT_TRUE(kx_curve_derivs_2d(c, 1, -1, row) == 8 && kx_curve_derivs_2d(c, 1, 31, row) == 8);
+}
+
+TEST(curve_evaluation, without_memory_the_makers_keep_their_samples) {
+  const struct {
+    int32_t type;
+    int before, samples;
+    const char *location;
+  } cases[] = {{83, 2, 5, "ll_create_list"},      {84, 2, 5, "ll_create_list"},     {96, 2, 3, "ll_create_list"},
+               {97, 2, 3, "ll_create_list"},      {93, 3, 3, "kx_mk_nubspline_2d"}, {98, 3, 3, "kx_mk_nubspline_3d"},
+               {94, 3, 3, "mk_nurb_curve2d - 2"}, {95, 3, 3, "mk_nurb_curve3d - 2"}};
+  for (const auto &k : cases) {
+    const auto define = [&] { return wavy(k.type, 3, one_piece(k.type) ? 4 : 5); };
+    const auto make = [](curve *c) { return sample(c, 2); };
+    curve_lists::expect_samples_kept(define, make, k.before, k.location, k.samples);
+  }
 }

@@ -69,11 +69,3 @@ TEST(nurbs_curves, end_for_every_count) {
     EXPECT_EQ(faults::messages(), std::vector<std::string>{"Memory Error: mk_nurb_curve2d - 2"});
   }
 }
-
-TEST(nurbs_curves, keep_their_samples_when_memory_runs_out) {
-  const auto make = [](curve *c) { return kx_mk_nurb_curve(c, 0, 0, 2, 1); };
-  for (const auto &[tag, text] : {std::pair{KX_POLY_2D, "mk_nurb_curve2d - 2"}, {KX_POLY_3D, "mk_nurb_curve3d - 2"}}) {
-    const auto define = [tag = tag] { return nurbs(tag, 5, 3, clamped(5, 3)); };
-    expect_samples_kept(define, make, 3, text, 4);
-  }
-}

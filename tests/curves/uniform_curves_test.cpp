@@ -89,11 +89,3 @@ TEST(uniform_curves, refuse_samples_without_number) {
             (std::vector<std::string>{"Memory Error: kx_mk_ucurve2d", "Memory Error: kx_mk_ucurve3d"}));
   EXPECT_EQ(c->curve_pnts->count + s->curve_pnts->count, 0);
 }
-
-TEST(uniform_curves, keep_their_samples_when_memory_runs_out) {
-  const auto plane = [] { return uniform(kx_def_ubspl_curve2d, 5); };
-  const auto space = [] { return uniform(kx_def_ubspl_curve3d, 5); };
-  for (const auto &define : {+plane, +space})
-    expect_samples_kept(
-        define, [](curve *c) { return kx_mk_ucurve(c, 0.5); }, 2, "ll_create_list", 5);
-}
