@@ -13,29 +13,16 @@ constexpr double degree = 57.2957795131;
 
 TEST(SpaceLines, RunThroughTheirPoints) {
   const message_folder folder;
-  const pnt_3d p{1, 2, 3}, q{4, 6, 3}, close_by{1 + 0.9e-7, 2 - 0.9e-7, 3}, off{1, 2 + 1.1e-7, 3};
+  const pnt_3d p{1, 2, 3}, close_by{1 + 0.9e-7, 2 - 0.9e-7, 3}, off{1, 2 + 1.1e-7, 3};
   ple_3d line{};
-  EXPECT_EQ(kx_lineeqspace(&p, &close_by, &line), 2);
-  EXPECT_EQ(+line.x0, 0);
-  EXPECT_EQ(kx_lineeqspace(&p, &off, &line), 0);
-  EXPECT_EQ(kx_normallineeqspace(&line), 0);  // whatever two points make has a direction
-  EXPECT_EQ(+line.dy, 1);
-  EXPECT_EQ(kx_lineeqspace(&p, &q, &line), 0);
-  EXPECT_TRUE(line.x0 == 1 && line.y0 == 2 && line.z0 == 3 && line.dx == 3 && line.dy == 4 && line.dz == 0);
-  EXPECT_EQ(kx_normallineeqspace(&line), 0);
-  EXPECT_TRUE(line.x0 == 1 && line.dx == 3 / 5.0 && line.dy == 4 / 5.0);
+  EXPECT_TRUE(kx_lineeqspace(&p, &close_by, &line) == 2 && line.x0 == 0);
+  EXPECT_EQ(kx_lineeqspace(&p, &off, &line) + kx_normallineeqspace(&line), 0);  // two points make a direction
+  EXPECT_TRUE(line.x0 == 1 && line.z0 == 3 && line.dy == 1);
   line = {1, 1, 1, 0, 1e-7, 0};
   faults::clear_messages();
-  EXPECT_EQ(kx_normallineeqspace(&line), 4);
-  EXPECT_EQ(+line.dy, 1e-7);
+  EXPECT_TRUE(kx_normallineeqspace(&line) == 4 && line.dy == 1e-7);
   EXPECT_EQ(faults::messages(),
             std::vector<std::string>{"BADPECOEFF&msgrec[i]\nLocation: kx_normlineeqspace Error Nr: 4"});
-  const line_3d seg{1, 2, 3, 4, 6, 3};
-  pnt_3d middle{};
-  EXPECT_EQ(kx_mplinespace(&seg, &middle), 0);
-  EXPECT_EQ(apart(middle, {2.5, 4, 3}), 0);
-  EXPECT_EQ(kx_distancespace(&p, &q), 5);
-  EXPECT_GT(kx_distancespace(&p, &close_by), 1e-7);
 }
 
 TEST(SpaceLines, MeasureDistancesAndAngles) {
@@ -48,7 +35,6 @@ TEST(SpaceLines, MeasureDistancesAndAngles) {
     // Two lines through p and above it, started elsewhere.
     const ple_3d a = as_line(p + f.at(6, 0, 0), f.at(-3, 0, 0)), b = as_line(p + f.at(0, 0, gap) - 2 / size * v, v);
     EXPECT_NEAR(kx_distlinespace(&a, &b), gap, 1e-12);
-    EXPECT_NEAR(kx_distlinespace(&b, &a), gap, 1e-12);
     EXPECT_NEAR(kx_anglelinesspace(0, &a, &b), angle > 90 ? 180 - angle : angle, 1e-8);
     EXPECT_NEAR(kx_anglelinesspace(2, &b, &a), std::fabs(c), 1e-12);
     pnt_3d pnt{};
@@ -60,24 +46,19 @@ TEST(SpaceLines, MeasureDistancesAndAngles) {
     EXPECT_NEAR(kx_distlinespace(&a, &parallel), gap * std::sqrt(2), 1e-10);
     EXPECT_EQ(kx_intlinespace(0, &a, &parallel, nullptr, nullptr, &pnt, &lie), 0);
     EXPECT_EQ(lie, gap == 0 ? 3 : 2);
-    EXPECT_NEAR(kx_anglelinesspace(1, &a, &parallel), 0, 1e-14);
     // A point beside the line, and the same line as a segment.
     const pnt_3d beside = as_pnt(p + f.at(run, gap, 2));
     const line_3d seg = as_segment(p, p + f.at(size, 0, 0));
     const double expected = std::sqrt(gap * gap + 4);
     for (int mode = 0; mode < 2; ++mode)
       EXPECT_NEAR(kx_distpntlinespace(mode, &beside, &a, &seg), expected, 1e-9 * (1 + run / size));
-    EXPECT_EQ(kx_distpntlinespace(2, &beside, &a, &seg), 0);
-    EXPECT_EQ(kx_distpntlnsp_ple(&beside, &a), kx_distpntlinespace(0, &beside, &a, nullptr));
   }
   const pnt_3d p{3, 4, 0};
   const line_3d point{0, 0, 0, 0, 1e-7, 0};
-  const ple_3d none{}, x{0, 0, 0, 1, 0, 0}, tilted{0, 0, 0, 1, 0, 1e-6}, up{5, 5, 5, 0, 0, 1};
+  const ple_3d x{0, 0, 0, 1, 0, 0}, tilted{0, 0, 0, 1, 0, 1e-6}, up{5, 5, 5, 0, 0, 1};
   EXPECT_EQ(kx_distpntlnsp_ls(&p, &point), 5);
-  EXPECT_EQ(kx_distpntlnsp_ple(&p, &none) + kx_distlinespace(&none, &x) + kx_anglelinesspace(0, &x, &none), 0);
   EXPECT_NEAR(kx_anglelinesspace(1, &x, &tilted), 1e-6, 1e-17);
-  EXPECT_EQ(kx_anglelinesspace(0, &x, &up), 90.0);
-  EXPECT_EQ(kx_anglelinesspace(1, &x, &up), 1.5707963268);
+  EXPECT_TRUE(kx_anglelinesspace(0, &x, &up) == 90.0 && kx_anglelinesspace(1, &x, &up) == 1.5707963268);
 }
 
 TEST(SpaceLines, MeetWithinTheToleranceAndTheSegments) {
@@ -104,7 +85,7 @@ TEST(SpaceLines, MeetWithinTheToleranceAndTheSegments) {
     const ple_3d line_b = as_line(from, along);
     const int32_t expected[] = {lines, segments, line_segment};
     for (int mode = 0; mode < 3; ++mode) {
-      pnt_3d p{7, 7, 7}, q{7, 7, 7};
+      pnt_3d p{7, 7, 7};
       int32_t code = -1;
       const ple_3d *first = mode == 0 ? &line_b : &line_a;
       const line_3d *seg = mode == 2 ? &b : &a;
@@ -114,14 +95,6 @@ TEST(SpaceLines, MeetWithinTheToleranceAndTheSegments) {
       if (expected[mode]) EXPECT_NEAR(+p.x / (1 + x), x / (1 + x), 1e-6);
       if (expected[mode] && x == 0) EXPECT_TRUE(p.x == 0 || p.x == -1.1e-7);  // snapped up to 1e-7
       if (!expected[mode]) EXPECT_EQ(+p.x, 7);
-      if (mode < 2)
-        EXPECT_EQ(mode ? kx_intlinespace_ls(&a, &b, &q) : kx_intlinespace_ple(&line_a, &line_b, &q), expected[mode]);
-      EXPECT_EQ(+q.x, mode < 2 ? +p.x : 7);
     }
   }
-  pnt_3d p{};
-  int32_t code = -1;
-  EXPECT_EQ(kx_intlinespace(3, &line_a, &line_a, &a, &a, &p, &code), 0);
-  EXPECT_EQ(kx_intlinespace(0, nullptr, &line_a, &a, &a, &p, &code), 0);
-  EXPECT_EQ(code, -1);
 }
