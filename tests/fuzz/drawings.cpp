@@ -1,6 +1,4 @@
 // Any DXF file: drawn by the drawing host's reader and builder, or refused with one line.
-#include <unistd.h>
-
 #include "dxf_file.hpp"
 #include "dxf_reader.hpp"
 #include "geometry_builder.hpp"
@@ -42,7 +40,8 @@ std::string drawing_of(fuzz::input &in) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-  static const std::string name = "/tmp/kxgeom-fuzz-drawing-" + std::to_string(getpid());
+  static const fuzz::scratch_folder folder;
+  static const std::string name = folder.file("given");
   fuzz::input in(data, size);
   const bool made = in.byte() % 4 != 0;
   const std::string text = made ? drawing_of(in) : in.text();

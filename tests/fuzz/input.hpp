@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <string>
 
 #include "kxgeom.h"
@@ -105,6 +106,20 @@ inline void drop(list_hdr *list) {
     ll_purge_list(list);
   }
 }
+
+// A folder for the files of one run, gone with it.
+class scratch_folder {
+ public:
+  scratch_folder() { REQUIRE(mkdtemp(name_) != nullptr); }
+  ~scratch_folder() { std::filesystem::remove_all(name_); }
+  scratch_folder(const scratch_folder &) = delete;
+  scratch_folder &operator=(const scratch_folder &) = delete;
+
+  std::string file(const char *name) const { return std::string(name_) + "/" + name; }
+
+ private:
+  char name_[32] = "/tmp/kxgeom-fuzz-XXXXXX";
+};
 
 inline constexpr std::int32_t point_tags[] = {KX_PNT_2D, KX_PNT_3D, KX_POLY_2D, KX_POLY_3D};
 

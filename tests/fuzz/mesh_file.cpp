@@ -1,10 +1,9 @@
 // Any mesh file: read as a surface that fits together, or refused with nothing changed.
-#include <unistd.h>
-
 #include "input.hpp"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-  static const std::string name = "/tmp/kxgeom-fuzz-mesh-" + std::to_string(getpid());
+  static const fuzz::scratch_folder folder;
+  static const std::string name = folder.file("given");
   std::FILE *file = std::fopen(name.c_str(), "wb");
   REQUIRE(file != nullptr);
   // Half of them get a sound head and sound kinds, or hardly one would come past it.

@@ -1,20 +1,16 @@
 // Any message file: every number gets a text that fits, and the box is shown whatever the file holds.
 #include "input.hpp"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-  static const std::string folder = [] {
-    std::string made = "/tmp/kxgeom-fuzz-XXXXXX";
-    REQUIRE(mkdtemp(made.data()));
-    REQUIRE(mkdir((made + "/MSG").c_str(), 0700) == 0);
-    setenv("KXLINK", made.c_str(), 1);
-    return made;
+  static const fuzz::scratch_folder folder;
+  static const std::string name = [] {
+    std::filesystem::create_directory(folder.file("MSG"));
+    setenv("KXLINK", folder.file("").c_str(), 1);
+    return folder.file("MSG/KXMSG.DAT");
   }();
   fuzz::input in(data, size);
   const std::int32_t numbers[] = {0, in.byte() - 8, in.byte() * 256 + in.byte(), INT32_MAX, INT32_MIN};
-  std::FILE *file = std::fopen((folder + "/MSG/KXMSG.DAT").c_str(), "wb");
+  std::FILE *file = std::fopen(name.c_str(), "wb");
   REQUIRE(file != nullptr);
   const std::string text = in.text();
   std::fwrite(text.data(), 1, text.size(), file);
