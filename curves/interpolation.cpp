@@ -5,6 +5,7 @@
 
 #include "curve_record.hpp"
 #include "kxgeom/curves.h"
+#include "pending_list.hpp"
 #include "records/vector.hpp"
 #include "runtime/memory.hpp"
 #include "runtime/tolerance.hpp"
@@ -29,47 +30,26 @@ std::int32_t read_points(const list_hdr &list, std::int32_t tag, std::int32_t n,
   return read == n ? n : 0;
 }
 
-// Control points as a list of polygon points, which every evaluator reads; false after the memory message.
-template <class D>
-bool append_vertices(list_hdr &list, const typename D::vector *points, std::int32_t n) {
-  for (std::int32_t i = 0; i < n; ++i) {
-    auto *vertex = D::create_vertex();
-    if (vertex == nullptr) return false;
-    *vertex = D::make_vertex(i, points[i]);
-    if (!kx::append(list, vertex, D::vertex_tag)) {
-      kx::release(vertex);
-      return false;
-    }
-  }
-  return true;
-}
-
-bool append_numbers(list_hdr &list, const double *values, std::int32_t n) {
-  for (std::int32_t i = 0; i < n; ++i) {
-    rnumber *record = kx::create_rnumber();
-    if (record == nullptr) return false;
-    record->value = values[i];
-    if (!kx::append(list, record, KX_RNUMBER)) {
-      kx::release(record);
-      return false;
-    }
-  }
-  return true;
-}
-
 // A curve of the dimension's B-spline kind with these control points, and knots where there are some; null after the
 // memory message. The lists built here are the curve's as soon as it is defined.
 template <class D>
 curve *define(const typename D::vector *ctrl, std::int32_t n, const double *knots, std::int32_t knot_count,
               std::int32_t degree) {
+  kx::pending_list points_made, numbers_made;
+  for (std::int32_t i = 0; i < n; ++i) {
+    if (!points_made.add_vertex<D>(ctrl[i])) return nullptr;
+  }
+  for (std::int32_t i = 0; i < knot_count; ++i) {
+    if (!numbers_made.add_number(knots[i])) return nullptr;
+  }
   list_hdr points = {}, numbers = {};
+  points_made.move_behind(points);
+  numbers_made.move_behind(numbers);
   curve *made = nullptr;
-  if (append_vertices<D>(points, ctrl, n) && append_numbers(numbers, knots, knot_count)) {
-    if constexpr (std::is_same_v<D, space>) {
-      made = degree ? kx_def_nubspl_curve3d(&points, &numbers, degree, 1) : kx_def_ubspl_curve3d(&points);
-    } else if ((made = kx_create_curve())) {
-      degree ? kx_def_nubspl_curve2d(&points, &numbers, degree, 1, made) : kx_def_ubspl_curve2d(&points, made);
-    }
+  if constexpr (std::is_same_v<D, space>) {
+    made = degree ? kx_def_nubspl_curve3d(&points, &numbers, degree, 1) : kx_def_ubspl_curve3d(&points);
+  } else if ((made = kx_create_curve())) {
+    degree ? kx_def_nubspl_curve2d(&points, &numbers, degree, 1, made) : kx_def_ubspl_curve2d(&points, made);
   }
   // What was not taken over: nothing, or all when there is no curve.
   kx::release_items(points);
@@ -113,23 +93,6 @@ std::int32_t span_of(const double *k, std::int32_t spans, std::int32_t p, double
   return s;
 }
 
-// The degree + 1 basis functions of a span at u, by the triangular scheme.
-void basis_of_span(const double *k, std::int32_t s, std::int32_t p, double u, double *out) {
-  double left[kx::max_degree + 1], right[kx::max_degree + 1];
-  out[0] = 1.0;
-  for (std::int32_t j = 1; j <= p; ++j) {
-    left[j] = u - k[s + p - j];
-    right[j] = k[s + p - 1 + j] - u;
-    double saved = 0.0;
-    for (std::int32_t r = 0; r < j; ++r) {
-      const double part = out[r] / (right[r + 1] + left[j - r]);
-      out[r] = saved + right[r + 1] * part;
-      saved = left[j - r] * part;
-    }
-    out[j] = saved;
-  }
-}
-
 // Of a degree, over parameters that advance by the chords: each inner knot is the mean of `degree` parameters in a row,
 // so that every basis function has a point of its own and the matrix keeps to a band of half the width degree - 1.
 template <class D>
@@ -165,7 +128,7 @@ curve *chordal_through(const list_hdr &list, std::int32_t tag, std::int32_t n, s
   for (std::int32_t i = 0; i < n; ++i) {
     double basis[kx::max_degree + 1];
     s = span_of(knots.data(), n - p, p, u[i], s);
-    basis_of_span(knots.data(), s, p, u[i], basis);
+    kx_basisfunctions(knots.data(), s + p - 1, p, u[i], 0, basis);
     for (std::int32_t j = 0; j <= p; ++j) {
       if (std::abs(s + j - i) <= m) band(i, s + j) = basis[j];
     }
